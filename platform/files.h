@@ -1,0 +1,65 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <string>
+
+namespace gsm {
+
+/// Text files, reached through small numbers as the handlers use them. Names are relative to the
+/// current folder.
+///
+/// Lines end in CR LF, CR or LF when read, in CR LF when written. Every failure is a
+/// `RuntimeFailure`.
+class Files {
+ public:
+  /// `programFolder` is the folder of the program's own files.
+  explicit Files(std::filesystem::path programFolder);
+
+  /// Makes the program's own folder the current one.
+  void changeToProgramFolder();
+
+  /// The full name of `name` in the current folder.
+  std::filesystem::path path(const std::string& name) const;
+
+  /// The lowest number that is not in use, from 1.
+  int freeFile() const;
+
+  /// Opens for reading. `fileAlreadyOpen` when the number is in use, `fileNotFound`,
+  /// `permissionDenied`, `fileAccessError` for what is no readable file.
+  void openForInput(int number, const std::string& name);
+
+  /// Opens for writing, empty; makes the file where there is none. Fails like `openForInput`.
+  void openForOutput(int number, const std::string& name);
+
+  /// Whether nothing is left to read. `badFileNumber` when the number isn't open for reading.
+  bool atEnd(int number);
+
+  /// The next line without its end. `inputPastEnd` when there is none, `badFileNumber` as above.
+  std::string readLine(int number);
+
+  /// Writes `text` and a line end. `badFileNumber` when the number isn't open for writing,
+  /// `diskFull` when the text can't be kept.
+  void printLine(int number, const std::string& text);
+
+  void closeAll();
+
+  /// Closes all files but `number`.
+  void closeAllBut(int number);
+
+ private:
+  struct OpenFile {
+    std::fstream stream;
+    bool forInput;
+  };
+
+  OpenFile& opened(int number, bool forInput);
+  std::fstream openStream(int number, const std::string& name, std::ios::openmode mode);
+
+  std::filesystem::path programFolder_;
+  std::filesystem::path currentFolder_;
+  std::map<int, OpenFile> files_;
+};
+
+}  // namespace gsm

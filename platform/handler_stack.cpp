@@ -1,0 +1,30 @@
+#include "platform/handler_stack.h"
+
+namespace gsm {
+
+class HandlerStack::Frame {
+ public:
+  explicit Frame(HandlerStack& stack) : stack_(stack) { ++stack_.depth_; }
+  ~Frame() {
+    const bool wasFull = stack_.isFull();
+    --stack_.depth_;
+    if (wasFull && !stack_.isFull() && stack_.relief_) stack_.relief_();
+  }
+  Frame(const Frame&) = delete;
+  Frame& operator=(const Frame&) = delete;
+
+ private:
+  HandlerStack& stack_;
+};
+
+void HandlerStack::run(const std::function<void()>& handler) {
+  const Frame frame(*this);
+  try {
+    handler();
+  } catch (const RuntimeFailure& failure) {
+    boxes_.show(failure.description());
+    program_.end();
+  }
+}
+
+}  // namespace gsm

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/clock.h"
+#include "platform/event_loop.h"
+#include "platform/files.h"
+#include "platform/handler_stack.h"
+#include "platform/message_boxes.h"
+#include "platform/port_probe.h"
+#include "platform/program.h"
+#include "platform/serial_device.h"
+#include "platform/settings_store.h"
+
+namespace gsm {
+
+/// Everything that the windows need of the machine. All of it outlives the windows.
+struct Platform {
+  Clock& clock;
+  EventLoop& loop;
+  HandlerStack& handlers;
+  MessageBoxes& boxes;
+  Program& program;
+  Files& files;
+  PortProbe& ports;
+  SerialDevice& serialDevice;
+  SettingsStore& settings;
+};
+
+}  // namespace gsm
