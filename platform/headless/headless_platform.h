@@ -1,0 +1,60 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+
+#include "platform/headless/headless_boxes.h"
+#include "platform/headless/headless_line.h"
+#include "platform/headless/headless_ports.h"
+#include "platform/headless/virtual_time.h"
+#include "platform/platform.h"
+
+namespace gsm {
+
+/// A settings store that can be looked at.
+class HeadlessSettings : public SettingsStore {
+ public:
+  void save(const std::string&, const std::string& key, const std::string& value) override {
+    values_[key] = value;
+  }
+  const std::map<std::string, std::string>& values() const { return values_; }
+
+ private:
+  std::map<std::string, std::string> values_;
+};
+
+/// Ends a run by unwinding its handlers.
+class HeadlessProgram : public Program {
+ public:
+  HeadlessProgram(Files& files, HeadlessLine& line) : files_(files), line_(line) {}
+
+  [[noreturn]] void end() override;
+
+ private:
+  Files& files_;
+  HeadlessLine& line_;
+};
+
+/// Everything that the windows need, on virtual time, without a screen or a serial port.
+class HeadlessPlatform {
+ public:
+  HeadlessPlatform(std::filesystem::path folder, LocalTime start);
+
+  HandlerStack& handlers() { return handlers_; }
+  Platform& platform() { return platform_; }
+
+  VirtualTime time;
+  HeadlessPorts ports;
+  HeadlessLine line{time, ports};
+  HeadlessBoxes boxes{time, time};
+  HeadlessSettings settings;
+  Files files;
+
+ private:
+  HeadlessProgram program_{files, line};
+  HandlerStack handlers_{boxes, program_};
+  Platform platform_;
+};
+
+}  // namespace gsm
