@@ -1,0 +1,17 @@
+#include "app/headless_panel.h"
+
+#include <utility>
+
+namespace gsm {
+
+HeadlessPanel::HeadlessPanel(std::filesystem::path folder, LocalTime now)
+    : machine(std::move(folder), now),
+      modem(machine.time, machine.line),
+      panel(machine.platform()) {
+  machine.line.setModem(&modem);
+}
+
+// Handlers that still wait refer to windows.
+HeadlessPanel::~HeadlessPanel() { machine.time.abandon(); }
+
+}  // namespace gsm

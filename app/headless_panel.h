@@ -1,0 +1,31 @@
+#pragma once
+
+#include <filesystem>
+
+#include "app/panel.h"
+#include "platform/headless/headless_platform.h"
+#include "platform/headless/modem_script.h"
+
+namespace gsm {
+
+/// The whole panel on virtual time, with a scripted modem on its line.
+class HeadlessPanel {
+ public:
+  /// `folder` is the program's own; `now` is the wall clock's time at the start.
+  HeadlessPanel(std::filesystem::path folder, LocalTime now);
+  ~HeadlessPanel();
+  HeadlessPanel(const HeadlessPanel&) = delete;
+  HeadlessPanel& operator=(const HeadlessPanel&) = delete;
+
+  /// Begins the program; nothing happens before time passes.
+  void start() { panel.start(); }
+
+  VirtualTime& time() { return machine.time; }
+  HandlerStack& handlers() { return machine.handlers(); }
+
+  HeadlessPlatform machine;
+  ModemScript modem;
+  Panel panel;
+};
+
+}  // namespace gsm

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "link/transcript.h"
+
+namespace gsm {
+
+/// A reply of two fields, as texts: "15,99" and a carriage return.
+struct PairReply {
+  std::string first;
+  std::string second;
+};
+
+/// Reads the fields from position `start` of `transcript` on, which may span 10 characters.
+/// `invalidArgument` when the comma or the carriage return isn't among them.
+PairReply pairReply(const Transcript& transcript, Position start);
+
+}  // namespace gsm

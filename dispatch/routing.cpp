@@ -1,0 +1,91 @@
+#include <algorithm>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "app/panel.h"
+#include "platform/runtime_failure.h"
+
+namespace gsm {
+namespace {
+
+// What a test does when its key stands at `key` in the transcript.
+using Action = std::function<void(Form1& form, Form6& audio, Position key)>;
+
+enum class Clearing { none, whole };
+
+struct Test {
+  int number;
+  std::vector<std::string_view> keys;  // the first of them that stands in the transcript acts
+  std::string_view alsoNeeds;          // must stand there too, unless empty
+  Action action;
+  Clearing clearing;  // of the transcript, once the action is done
+};
+
+Action method(void (Form1::*show)(Position)) {
+  return [show](Form1& form, Form6&, Position key) { (form.*show)(key); };
+}
+
+// The outcome of a change to the audio settings, on that window's status line.
+Action outcome(std::string_view success) {
+  return [success](Form1& form, Form6& audio, Position) {
+    audio.Label7.Caption = form.Text1.holds("OK") ? std::string(success) : "UnSuccessFul.Try Again";
+  };
+}
+
+// A ring starts the poll that takes the call prompt down again.
+void startPoll(Form1& form, Form6&, Position) { form.Timer2.Enabled = true; }
+
+// The row of tests. Each looks at the transcript anew, so a test that clears it makes all tests
+// behind it fail, and one that doesn't leaves the same text to them and to the next call.
+const std::vector<Test>& tests() {
+  static const std::vector<Test> row = {
+      {1, {"CMTI"}, "", {}, Clearing::whole},
+      {2, {"+CCWA:"}, "\"", {}, Clearing::none},
+      {3, {"NO ANSWER", "NO CARRIER", "BUSY"}, "", {}, Clearing::none},
+      {4, {"ATI0"}, "OK", {}, Clearing::none},
+      {5, {"ATI3"}, "OK", {}, Clearing::none},
+      {6, {"AT+CPBS?"}, "OK", {}, Clearing::none},
+      {7, {"AT+VGR="}, "", outcome("Changes SuccessFul-Speaker"), Clearing::whole},
+      {8, {"AT+VGT="}, "", outcome("Changes SuccessFul-Microphone"), Clearing::whole},
+      {9, {"VGR:"}, "", method(&Form1::showSpeakerGain), Clearing::whole},
+      {10, {"VGT:"}, "", method(&Form1::showMicrophoneGain), Clearing::whole},
+      {11, {"ECHO:"}, "", {}, Clearing::none},
+      {12, {"AT+ECHO="}, "", outcome("Changes SuccessFul"), Clearing::whole},
+      {13, {"SIDET:"}, "", method(&Form1::showSideTone), Clearing::whole},
+      {14, {"AT+SIDET="}, "", outcome("Changes SuccessFul"), Clearing::whole},
+      {15, {"CSQ:"}, "", method(&Form1::showSignal), Clearing::whole},
+      {16, {"CREG:"}, "", method(&Form1::showRegistration), Clearing::whole},
+      {17, {"CPIN:"}, "", {}, Clearing::whole},
+      {18, {"+CPIN="}, "", {}, Clearing::none},
+      {19, {"AT+CSCA?"}, "", {}, Clearing::none},
+      {20, {"RING"}, "", startPoll, Clearing::whole},
+      {21, {"+CDS:"}, "", {}, Clearing::none},
+  };
+  return row;
+}
+
+}  // namespace
+
+void Form1::ProcessResponse(const std::string& text, bool marked) try {
+  Text1.append((marked ? "--> " : "") + text);
+  Pause(2);
+  if (Text1.Text.empty()) return;
+  route();
+  Text1.SelStart = Text1.length();
+} catch (const RuntimeFailure&) {
+  // Ends silently: the rest of the tests is skipped, and the transcript stays as it is.
+}
+
+void Form1::route() {
+  for (const Test& test : tests()) {
+    const auto key = std::find_if(test.keys.begin(), test.keys.end(),
+                                  [this](std::string_view each) { return Text1.holds(each); });
+    if (key == test.keys.end()) continue;
+    if (!test.alsoNeeds.empty() && !Text1.holds(test.alsoNeeds)) continue;
+    if (test.action) test.action(*this, panel_.form6, Text1.position(*key));
+    if (test.clearing == Clearing::whole) Text1.clear();
+  }
+}
+
+}  // namespace gsm

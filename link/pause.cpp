@@ -1,0 +1,21 @@
+#include "app/form1.h"
+#include "platform/runtime_failure.h"
+
+namespace gsm {
+
+void Form1::Pause(float seconds) {
+  Clock& clock = platform().clock;
+  const float start = clock.secondsSinceMidnight();
+  // When to look at the clock again if nothing happens before. The clock's single precision can lag
+  // a little behind the time line, and then another look follows soon.
+  constexpr Duration kNextLook = std::chrono::milliseconds(1);
+  Instant wake = clock.now() + fromSeconds(static_cast<double>(seconds));
+
+  while (clock.secondsSinceMidnight() - start < seconds) {
+    if (wake <= clock.now()) wake = clock.now() + kNextLook;
+    platform().loop.pass(wake);
+    if (clock.secondsSinceMidnight() < start) throw failure::overflow();  // midnight has passed
+  }
+}
+
+}  // namespace gsm

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace gsm {
+
+// Text arithmetic. A text is a row of bytes of Windows-1252, one to a character; positions count
+// from 1, and 0 means "not there".
+
+using Position = int;
+
+/// Where `key` first stands in `text`, exact in case; 0 when it doesn't.
+Position position(std::string_view key, std::string_view text);
+
+/// Up to `length` characters of `text` from `start` on; empty when `start` lies behind the end.
+/// `invalidArgument` when `start` is below 1 or `length` is negative.
+std::string slice(std::string_view text, Position start, int length);
+
+/// `text` from its beginning up to but not including the first `end`. `invalidArgument` when `end`
+/// isn't there, since what lies before position 0 has a negative length.
+std::string before(std::string_view end, std::string_view text);
+
+/// `text` behind the first `end`, or all of it when `end` isn't there.
+std::string behind(std::string_view end, std::string_view text);
+
+/// `text` without blanks at both ends. Other white space stays.
+std::string trim(std::string_view text);
+
+std::string upperCase(std::string_view text);
+
+/// The number that `text` spells: white space around it (line ends included), a sign, a point and
+/// an exponent are allowed. `typeMismatch` when it spells none.
+double number(std::string_view text);
+
+/// The same as a whole number, a half rounded to the even neighbour. `overflow` when it doesn't fit
+/// 16 bits with sign.
+int wholeNumber(std::string_view text);
+
+/// Counts the occurrences of `find` in `text`, overlapping ones included.
+int getCountOf(std::string_view text, std::string_view find);
+
+/// Removes the first `find` from `text` and returns what `text` then is. When `find` isn't there,
+/// `text` stays as it is and the result is empty.
+std::string StrDel(std::string& text, std::string_view find);
+
+}  // namespace gsm

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/window.h"
+
+namespace gsm {
+
+class Panel;
+
+/// A picture with advice about the signal, which comes up for some seconds now and then.
+class Form20 : public Window {
+ public:
+  explicit Form20(Panel& panel);
+
+  Picture Image1{*this, "Image1"};
+  Timer Timer1{*this, "Timer1", {.Interval = 50000, .Enabled = false}};
+
+ private:
+  void Timer1_Tick();
+
+  Panel& panel_;
+};
+
+}  // namespace gsm

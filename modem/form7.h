@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/window.h"
+
+namespace gsm {
+
+class Panel;
+
+/// Signal and registration, beside the other windows. It has no code: others write its controls.
+class Form7 : public Window {
+ public:
+  explicit Form7(Panel& panel);
+
+  Frame Frame1{*this, "Frame1"};
+  Label Label1{*this, "Label1", {.Caption = "Signal  And Network", .In = &Frame1}};
+  Label Label2{*this, "Label2", {.Caption = "L", .In = &Frame1}};
+  Label Label3{*this, "Label3", {.Caption = "H", .In = &Frame1}};
+
+  // The bars, from the left.
+  Picture Image1{*this, "Image1", {.In = &Frame1, .Visible = false}};
+  Picture Image2{*this, "Image2", {.In = &Frame1, .Visible = false}};
+  Picture Image3{*this, "Image3", {.In = &Frame1, .Visible = false}};
+  Picture Image4{*this, "Image4", {.In = &Frame1, .Visible = false}};
+  Picture Image5{*this, "Image5", {.In = &Frame1, .Visible = false}};
+
+  Label Label4{*this, "Label4", {.In = &Frame1}};  // the values
+  Label Label5{*this, "Label5", {.In = &Frame1}};  // the registration
+};
+
+}  // namespace gsm
