@@ -1,0 +1,16 @@
+// The panel without a screen: one request in JSON a line on standard input, one answer a line on
+// standard output.
+
+#include <iostream>
+#include <string>
+
+#include "driver/session.h"
+
+int main() {
+  std::ios::sync_with_stdio(false);
+  gsm::driver::Session session;
+  for (std::string line; std::getline(std::cin, line);) {
+    std::cout << session.answer(line) << '\n' << std::flush;
+  }
+  return 0;
+}

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "app/headless_panel.h"
+#include "driver/request.h"
+
+namespace gsm::driver {
+
+/// One run of the panel, told what to do by requests and asked what it shows.
+class Session {
+ public:
+  /// Carries out one line, a request in JSON, and returns the answer in JSON, without a line end.
+  /// Never throws: a line that can't be understood has an answer that says why.
+  std::string answer(std::string_view line);
+
+ private:
+  using Handler = Json (Session::*)(const Request&);
+  struct Operation {
+    std::string_view name;
+    Handler handler;
+    bool needsStart;
+  };
+  static const Operation* operation(std::string_view name);
+  Json carryOut(const Json& fields);
+
+  // The run.
+  Json start(const Request& request);
+  Json run(const Request& request);
+  Json settle(const Request& request);
+
+  // The modem and the ports.
+  Json reply(const Request& request);
+  Json otherwise(const Request& request);
+  Json forget(const Request& request);
+  Json receive(const Request& request);
+  Json event(const Request& request);
+  Json modem(const Request& request);
+  Json ports(const Request& request);
+
+  // The user.
+  Json click(const Request& request);
+  Json type(const Request& request);
+  Json erase(const Request& request);
+  Json select(const Request& request);
+  Json tab(const Request& request);
+  Json move(const Request& request);
+  Json close(const Request& request);
+  Json minimise(const Request& request);
+  Json restore(const Request& request);
+  Json maximise(const Request& request);
+  Json boxes(const Request& request);
+  Json answerBox(const Request& request);
+
+  // Looking.
+  Json get(const Request& request);
+  Json sent(const Request& request);
+  Json shown(const Request& request);
+  Json state(const Request& request);
+
+  // The phone book.
+  Json rows(const Request& request);
+  Json store(const Request& request);
+
+  /// Queues what the user does. An action that returns false was out of the user's reach.
+  void act(const Request& request, std::function<bool()> action);
+  Json changeWindow(const Request& request, int state);
+  Json progress() const;
+
+  Window& windowNamed(const std::string& name);
+  Control& controlNamed(const std::string& name, std::optional<int> index);
+  Control& controlOf(const Request& request);
+  /// The control of the request as one of `Kind`s; `BadRequest` when it is of another.
+  template <class... Kind>
+  auto controlAs(const Request& request, const char* deed);
+
+  std::unique_ptr<HeadlessPanel> world_;
+  int refused_ = 0;
+};
+
+}  // namespace gsm::driver
