@@ -1,0 +1,26 @@
+#include "simulator/profile_number.h"
+
+// How calls are announced and heard.
+namespace gsm::simulator {
+
+namespace {
+
+// The second value tells that the network offers the service.
+Reply queryCallerId(ModemState& state, const Command& command) {
+  return ok(headed(command, std::to_string(state.settings.profile.callerId) + ",1"));
+}
+
+constexpr CommandRow kRows[] = {
+    {.name = "+CLIP",
+     .query = queryCallerId,
+     .set = setNumbers<&Profile::callerId>,
+     .test = listNumbers<&Profile::callerId>},
+    profileNumbers<&Profile::callTypes>("+CRC"),
+    profileNumbers<&Profile::speaker>("+SPEAKER"),
+};
+
+}  // namespace
+
+CommandRows callCommands() { return kRows; }
+
+}  // namespace gsm::simulator

@@ -1,0 +1,57 @@
+#include "simulator/command_table.h"
+
+#include <iterator>
+#include <utility>
+
+namespace gsm::simulator {
+
+namespace {
+
+constexpr CommandRows (*kTables[])() = {
+    identityCommands, lineCommands, profileCommands, simCommands,
+    networkCommands,  callCommands, messageCommands,
+};
+
+const CommandRow* rowOf(std::string_view name) {
+  for (const auto table : kTables) {
+    for (const CommandRow& row : table()) {
+      if (row.name == name) return &row;
+    }
+  }
+  return nullptr;
+}
+
+template <typename Value>
+void append(std::vector<Value>& to, std::vector<Value>& from) {
+  to.insert(to.end(), std::make_move_iterator(from.begin()), std::make_move_iterator(from.end()));
+}
+
+}  // namespace
+
+CommandHandler handlerOf(const Command& command) {
+  const CommandRow* row = rowOf(command.name);
+  if (row == nullptr) return nullptr;
+  switch (command.form) {
+    case Command::Form::kExecute: return row->execute;
+    case Command::Form::kQuery: return row->query;
+    case Command::Form::kSet: return row->set;
+    case Command::Form::kTest: return row->test;
+  }
+  return nullptr;
+}
+
+Reply executeLine(ModemState& state, std::string_view body) {
+  Reply whole;
+  for (const Command& command : parseCommands(body)) {
+    const CommandHandler handler = handlerOf(command);
+    Reply reply = handler != nullptr ? handler(state, command) : error();
+    append(whole.information, reply.information);
+    append(whole.afterwards, reply.afterwards);
+    whole.result = reply.result;
+    whole.code = reply.code;
+    if (whole.failed()) break;
+  }
+  return whole;
+}
+
+}  // namespace gsm::simulator

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "simulator/command.h"
+#include "simulator/modem_state.h"
+#include "simulator/reply.h"
+
+namespace gsm::simulator {
+
+// Does one command. It may change the state; the reply isn't out yet when it returns.
+using CommandHandler = Reply (*)(ModemState& state, const Command& command);
+
+// A command with what it does in each form. A form without a handler answers ERROR.
+struct CommandRow {
+  std::string_view name;
+  CommandHandler execute = nullptr;
+  CommandHandler query = nullptr;
+  CommandHandler set = nullptr;
+  CommandHandler test = nullptr;
+};
+
+using CommandRows = std::span<const CommandRow>;
+
+// The tables, one for each subject, in the file of that name.
+CommandRows identityCommands();
+CommandRows lineCommands();
+CommandRows profileCommands();
+CommandRows simCommands();
+CommandRows networkCommands();
+CommandRows callCommands();
+CommandRows messageCommands();
+
+// The handler for a command; null when there is none.
+CommandHandler handlerOf(const Command& command);
+
+// Does the commands of a line, with `body` being what stands behind "AT", up to the first that
+// fails. The reply holds what all of them tell, and the result of the last one done.
+Reply executeLine(ModemState& state, std::string_view body);
+
+}  // namespace gsm::simulator

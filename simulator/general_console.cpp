@@ -1,0 +1,44 @@
+#include "simulator/console_table.h"
+
+// The console's commands about the simulator itself.
+namespace gsm::simulator {
+
+namespace {
+
+std::string speedText(const ModemState& state) {
+  return state.speed() == kAutobaud ? "autobaud" : std::to_string(state.speed()) + " baud";
+}
+
+std::string onOff(bool on) { return on ? "on" : "off"; }
+
+std::string showState(ModemState& state, std::string_view) {
+  const SimCard& sim = state.sim;
+  const Network& network = state.network;
+  return "line: " + speedText(state) + ", " + (state.plugged ? "plugged" : "unplugged") +
+         ", silent " + onOff(state.silent) + ", echo " + onOff(state.settings.profile.echo != 0) +
+         ", cut " + state.transmitter.cutter().name() +
+         "\nfaults: " + state.transmitter.faults().names() +
+         "\nsim: " + std::string(nameOf(sim.status())) + ", " + std::to_string(sim.pinTries()) +
+         " PIN and " + std::to_string(sim.pukTries()) + " PUK tries left\nnetwork: registration " +
+         std::to_string(network.registration()) + ", signal " + std::to_string(network.signal) +
+         "," + std::to_string(network.bitErrorRate);
+}
+
+std::string showHelp(ModemState&, std::string_view) { return consoleHelp(); }
+
+std::string quit(ModemState& state, std::string_view) {
+  if (state.surroundings.quit) state.surroundings.quit();
+  return {};
+}
+
+constexpr ConsoleRow kRows[] = {
+    {"state", "", "show how things stand", showState},
+    {"help", "", "show this list", showHelp},
+    {"quit", "", "end the simulator", quit},
+};
+
+}  // namespace
+
+ConsoleRows generalConsole() { return kRows; }
+
+}  // namespace gsm::simulator

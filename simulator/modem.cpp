@@ -1,0 +1,76 @@
+#include "simulator/modem.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "simulator/command_table.h"
+#include "simulator/console_table.h"
+#include "simulator/line_speed.h"
+
+namespace gsm::simulator {
+
+namespace {
+
+// The receive buffer; what comes in beyond it while a command is being done is lost.
+constexpr std::size_t kReceiveBuffer = 4096;
+
+}  // namespace
+
+Modem::Modem(Timeline& timeline, ProfileStore& store, Surroundings surroundings,
+             const ModemOptions& options)
+    : state_(timeline, store, std::move(surroundings), options),
+      timeline_(timeline),
+      latency_(options.latency) {}
+
+bool Modem::hears(int speed) const {
+  if (state_.silent || !state_.plugged || !isLineSpeed(speed)) return false;
+  return state_.speed() == kAutobaud || state_.speed() == speed;
+}
+
+void Modem::hostWrites(std::string_view bytes, int speed) {
+  if (!hears(speed)) return;
+  state_.heardAt(speed);
+  while (!bytes.empty()) {
+    const std::size_t room = std::min(kReceiveBuffer - waiting_.size(), bytes.size());
+    if (room == 0) return;
+    waiting_ += bytes.substr(0, room);
+    bytes.remove_prefix(room);
+    work();
+  }
+}
+
+// Takes what has been heard, up to the end of the next command line: one line is done at a time.
+void Modem::work() {
+  while (!busy_ && !waiting_.empty()) {
+    std::size_t taken = 0;
+    std::string echo;
+    auto step = LineInput::Step::kIgnored;
+    while (taken < waiting_.size() && step != LineInput::Step::kLineEnded) {
+      const char byte = waiting_[taken++];
+      step = input_.take(byte);
+      if (step != LineInput::Step::kIgnored) echo += byte;
+    }
+    waiting_.erase(0, taken);
+    if (state_.settings.profile.echo != 0) state_.transmitter.send(Source::kEcho, echo);
+    if (step != LineInput::Step::kLineEnded) continue;
+    const LineInput::Line line = input_.takeLine();
+    if (!line.isCommand) continue;
+    busy_ = true;
+    const auto arrival = lineTime(taken, state_.transmitter.speed());
+    timeline_.after(arrival + latency_, [this, line] { answer(line); });
+  }
+}
+
+void Modem::answer(const LineInput::Line& line) {
+  Reply reply = line.overlong ? error() : executeLine(state_, line.body);
+  const std::string bytes = state_.silent ? "" : framed(reply, state_.settings.profile);
+  state_.transmitter.send(Source::kReply, bytes, [this, actions = std::move(reply.afterwards)] {
+    for (const auto& action : actions) action();
+    busy_ = false;
+    work();
+  });
+}
+
+std::string Modem::console(std::string_view line) { return runConsoleLine(state_, line); }
+
+}  // namespace gsm::simulator

@@ -1,0 +1,65 @@
+#include <csignal>
+#include <exception>
+#include <iostream>
+#include <memory>
+#include <random>
+#include <span>
+#include <string>
+
+#include "platform/pty/file_profile_store.h"
+#include "platform/pty/pty_server.h"
+#include "platform/pty/stop_signals.h"
+#include "simulator/simulator_options.h"
+
+namespace {
+
+using gsm::simulator::SimulatorOptions;
+
+constexpr int kBadUsage = 2;
+
+std::string speedText(int speed) {
+  return speed == gsm::simulator::kAutobaud ? "autobaud" : std::to_string(speed) + " baud";
+}
+
+std::unique_ptr<gsm::simulator::ProfileStore> storeFor(const SimulatorOptions& options) {
+  if (!options.profile) return std::make_unique<gsm::simulator::MemoryProfileStore>();
+  return std::make_unique<gsm::pty::FileProfileStore>(*options.profile);
+}
+
+int serve(SimulatorOptions options) {
+  if (!options.seeded) options.modem.seed = std::random_device{}();
+  const auto store = storeFor(options);
+  const gsm::pty::StopSignals stop;
+  gsm::pty::PtyServer server(*store, {.modem = options.modem,
+                                      .link = options.link,
+                                      .timeFactor = options.timeFactor,
+                                      .consoleInput = 0,
+                                      .stopDescriptor = stop.descriptor()});
+  std::cout << "modem on " << server.device();
+  if (options.link) std::cout << " (linked as " << *options.link << ")";
+  std::cout << ", " << speedText(server.speed()) << ", seed " << options.modem.seed << std::endl;
+  server.run();
+  return 0;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  const std::span<const char* const> given(arguments, static_cast<std::size_t>(count));
+  const auto parsed = gsm::simulator::parseOptions(given.subspan(given.empty() ? 0 : 1));
+  if (const auto* complaint = std::get_if<std::string>(&parsed)) {
+    std::cerr << "modem-simulator: " << *complaint << "\n";
+    return kBadUsage;
+  }
+  const auto& options = std::get<SimulatorOptions>(parsed);
+  if (options.help) {
+    std::cout << gsm::simulator::optionsHelp();
+    return 0;
+  }
+  try {
+    return serve(options);
+  } catch (const std::exception& failure) {
+    std::cerr << "modem-simulator: " << failure.what() << "\n";
+    return 1;
+  }
+}

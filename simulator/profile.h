@@ -1,0 +1,124 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "simulator/line_speed.h"
+
+namespace gsm::simulator {
+
+// What AT&W stores and ATZ brings back. The values given here are the factory's.
+struct Profile {
+  int echo = 1;
+  int verbose = 1;
+  int quiet = 0;
+  int autoAnswer = 0;
+  int carrierDetect = 1;
+  int terminalReady = 1;
+  int dataSetReady = 1;
+  int errorCodes = 0;
+  int callTypes = 0;
+  int callerId = 0;
+  int registrationNotices = 0;
+  int speaker = 0;
+  int speed = 115200;
+  int framing = 3;
+  int parity = 4;
+  int hostFlowControl = 2;
+  int modemFlowControl = 2;
+  int characterSet = 1;
+  int textMode = 0;
+  int messageNotices = 0;
+  int messageRoute = 1;
+  int broadcastRoute = 0;
+  int reportRoute = 0;
+  int noticeBuffer = 0;
+
+  friend bool operator==(const Profile&, const Profile&) = default;
+};
+
+// The values that a setting takes: `least` to `most` in steps of `step`.
+struct Range {
+  int least;
+  int most;
+  int step = 1;
+
+  constexpr bool holds(int value) const {
+    return value >= least && value <= most && (value - least) % step == 0;
+  }
+
+  // The values as a test command lists them: "(0,1)" for two, "(0-3)" for more.
+  std::string listing() const;
+};
+
+// One setting: its key in the stored text, where it lies in the profile, and what it may be.
+struct ProfileField {
+  std::string_view key;
+  int Profile::*member;
+  Range range;
+
+  constexpr bool accepts(int value) const {
+    const bool isSpeed = member == &Profile::speed;
+    return range.holds(value) && (!isSpeed || value == kAutobaud || isLineSpeed(value));
+  }
+};
+
+inline constexpr ProfileField kProfileFields[] = {
+    {"E", &Profile::echo, {0, 1}},
+    {"V", &Profile::verbose, {0, 1}},
+    {"Q", &Profile::quiet, {0, 1}},
+    {"S0", &Profile::autoAnswer, {0, 255}},
+    {"&C", &Profile::carrierDetect, {0, 1}},
+    {"&D", &Profile::terminalReady, {0, 2}},
+    {"&S", &Profile::dataSetReady, {0, 1}},
+    {"+CMEE", &Profile::errorCodes, {0, 1}},
+    {"+CRC", &Profile::callTypes, {0, 1}},
+    {"+CLIP", &Profile::callerId, {0, 1}},
+    {"+CREG", &Profile::registrationNotices, {0, 2}},
+    {"+SPEAKER", &Profile::speaker, {0, 1}},
+    {"+IPR", &Profile::speed, {0, 115200}},
+    {"+ICF.framing", &Profile::framing, {0, 6}},
+    {"+ICF.parity", &Profile::parity, {0, 4}},
+    {"+IFC.host", &Profile::hostFlowControl, {0, 2, 2}},
+    {"+IFC.modem", &Profile::modemFlowControl, {0, 2, 2}},
+    {"+CSCS", &Profile::characterSet, {0, 3}},
+    {"+CMGF", &Profile::textMode, {0, 1}},
+    {"+CNMI.mode", &Profile::messageNotices, {0, 3}},
+    {"+CNMI.mt", &Profile::messageRoute, {0, 3}},
+    {"+CNMI.bm", &Profile::broadcastRoute, {0, 3}},
+    {"+CNMI.ds", &Profile::reportRoute, {0, 2}},
+    {"+CNMI.bfr", &Profile::noticeBuffer, {0, 1}},
+};
+
+constexpr const ProfileField& fieldOf(int Profile::*member) {
+  for (const ProfileField& field : kProfileFields) {
+    if (field.member == member) return field;
+  }
+  throw "a member of the profile has no field";
+}
+
+// The field of a member, found by the compiler: a member without one doesn't compile.
+template <int Profile::*member>
+inline constexpr ProfileField kField = fieldOf(member);
+
+// The +WIND mask covers the indications 0 to 16.
+inline constexpr Range kWindRange = {0, 32767};
+
+// All that outlives a power cycle: the stored profile, and the +WIND mask, which the modem keeps at
+// once, without AT&W.
+struct StoredSettings {
+  Profile profile;
+  int wind = 0;
+
+  friend bool operator==(const StoredSettings&, const StoredSettings&) = default;
+};
+
+// The settings as text, one "key=value" on a line.
+std::string toText(const StoredSettings& settings);
+
+// The settings that `text` holds. A key left out keeps its factory value. Nothing when a line
+// isn't "key=value", a key is unknown or a value out of range: noise isn't half believed.
+std::optional<StoredSettings> parseStoredSettings(std::string_view text);
+
+}  // namespace gsm::simulator

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "simulator/profile.h"
+
+namespace gsm::simulator {
+
+// The +CME errors that the modem gives.
+enum class EquipmentError {
+  kNotAllowed = 3,
+  kNotSupported = 4,
+  kSimMissing = 10,
+  kPinWanted = 11,
+  kPukWanted = 12,
+  kSimFailure = 13,
+  kWrongCode = 16,
+};
+
+// What a command answers.
+struct Reply {
+  enum class Result { kOk, kError, kEquipmentError, kMessageError, kNone };
+
+  // The information responses. One with several lines holds its line ends.
+  std::vector<std::string> information;
+  Result result = Result::kOk;
+  int code = 0;  // of kEquipmentError and kMessageError
+
+  // Done once the last byte of the whole reply has left, in the order of the commands.
+  std::vector<std::function<void()>> afterwards;
+
+  bool failed() const { return result != Result::kOk && result != Result::kNone; }
+};
+
+inline Reply ok() { return {}; }
+inline Reply ok(std::string information) { return {.information = {std::move(information)}}; }
+
+// An information response that no final result follows.
+inline Reply bare(std::string information) {
+  return {.information = {std::move(information)}, .result = Reply::Result::kNone};
+}
+
+// For a command that isn't one: ERROR whatever AT+CMEE says.
+inline Reply error() { return {.result = Reply::Result::kError}; }
+
+// For a right command with a wrong value or at a wrong time: ERROR or, with AT+CMEE=1, the code.
+inline Reply error(EquipmentError code) {
+  return {.result = Reply::Result::kEquipmentError, .code = static_cast<int>(code)};
+}
+
+// The same for the message commands, with a +CMS code.
+inline Reply messageError(int code) {
+  return {.result = Reply::Result::kMessageError, .code = code};
+}
+
+// One line as it goes out, with the line ends that ATV asks for.
+std::string framedLine(std::string_view text, const Profile& profile);
+
+// The reply as it goes out, in the form that ATV, ATQ and AT+CMEE ask for.
+std::string framed(const Reply& reply, const Profile& profile);
+
+}  // namespace gsm::simulator

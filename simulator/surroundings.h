@@ -1,0 +1,25 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+namespace gsm::simulator {
+
+// What stands around the modem: the host at the other end of the line, and the desk. Each may be
+// left empty. They are called from actions of the timeline and from the modem's own operations,
+// and may call back into the modem.
+struct Surroundings {
+  // A piece of what arrives at the host, at the instant of its last byte.
+  std::function<void(std::string_view chunk)> toHost;
+
+  // The modem listens and sends at `speed` from now on, or at any speed for kAutobaud.
+  std::function<void(int speed)> speedChanged;
+
+  // The console pulls the plug of the port, or puts it back.
+  std::function<void(bool plugged)> plugChanged;
+
+  // The console wants the program to end.
+  std::function<void()> quit;
+};
+
+}  // namespace gsm::simulator

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "simulator/cutter.h"
+#include "simulator/fault_chain.h"
+#include "simulator/timeline.h"
+#include "simulator/transmission.h"
+
+namespace gsm::simulator {
+
+// The modem's end of the wire to the host: sends one transmission after the other, cut, spoilt by
+// the faults, and at the pace of the line's speed.
+class Transmitter {
+ public:
+  using Sink = std::function<void(std::string_view chunk)>;
+
+  // `sink` takes each chunk at the instant at which its last byte has arrived.
+  Transmitter(Timeline& timeline, Sink sink, Cutter cutter, FaultChain faults);
+
+  // The faults that meet what is sent from now on.
+  FaultChain& faults() { return faults_; }
+  const FaultChain& faults() const { return faults_; }
+
+  const Cutter& cutter() const { return cutter_; }
+
+  // Bits per second, above zero; counts from the next chunk on.
+  int speed() const { return speed_; }
+  void setSpeed(int speed) { speed_ = speed; }
+
+  // Queues `bytes` behind all that was sent before, and calls `sent` once the last of them has
+  // left. Replies and unsolicited lines fall into pieces as the cutter says, echo and what the
+  // console says don't. When more than 64 KiB are waiting, the bytes are lost, as in a real modem's
+  // overrun; `sent` is called all the same.
+  void send(Source source, const std::string& bytes, std::function<void()> sent = {});
+
+ private:
+  struct Item {
+    Chunk chunk;
+    std::function<void()> sent;
+  };
+
+  void startNext();
+  void finishFirst();
+
+  GuardedTimeline timeline_;
+  Sink sink_;
+  Cutter cutter_;
+  FaultChain faults_;
+  int speed_ = 9600;
+  std::deque<Item> queue_;
+  std::size_t queuedBytes_ = 0;
+  bool sending_ = false;
+};
+
+}  // namespace gsm::simulator
