@@ -89,8 +89,8 @@ void Files::printLine(int number, const std::string& text) {
 
 void Files::closeAll() { files_.clear(); }
 
-void Files::closeAllBut(int number) {
-  std::erase_if(files_, [number](const auto& file) { return file.first != number; });
+void Files::closeAllBut(const std::set<int>& kept) {
+  std::erase_if(files_, [&kept](const auto& file) { return !kept.contains(file.first); });
 }
 
 }  // namespace gsm

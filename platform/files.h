@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <set>
 #include <string>
 
 namespace gsm {
@@ -45,8 +46,8 @@ class Files {
 
   void closeAll();
 
-  /// Closes all files but `number`.
-  void closeAllBut(int number);
+  /// Closes all files but those of the numbers `kept`.
+  void closeAllBut(const std::set<int>& kept);
 
  private:
   struct OpenFile {

@@ -11,12 +11,15 @@ ListControl::ListControl(Window& window, std::string name, int index, Control* c
                          bool visible, bool enabled)
     : Control(window, std::move(name), index, container, visible, enabled),
       List(*this, PropertyId::List, {}),
-      ListIndex(*this, PropertyId::ListIndex, -1, [](PropertyOwner& owner, int selection) {
-        static_cast<ListControl&>(owner).select(selection);
-      }) {}
+      ListIndex(*this, PropertyId::ListIndex, -1,
+                [](PropertyOwner& owner, int selection) {
+                  static_cast<ListControl&>(owner).select(selection);
+                }),
+      ItemTips(*this, PropertyId::ItemTips, {}) {}
 
-void ListControl::AddItem(std::string item) {
+void ListControl::AddItem(std::string item, std::string tip) {
   reference();
+  ItemTips.change([&](std::vector<std::string>& tips) { tips.push_back(std::move(tip)); });
   List.change([&](std::vector<std::string>& items) { items.push_back(std::move(item)); });
 }
 
@@ -41,6 +44,7 @@ void ListControl::removeAll() {
   reference();
   ListIndex.store(-1);
   List.store({});
+  ItemTips.store({});
 }
 
 ListBox::ListBox(Window& window, std::string name, Design design, int index)

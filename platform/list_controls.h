@@ -17,7 +17,10 @@ class ListControl : public Control {
   Property<int> ListIndex;
   Event Click{*this};
 
-  void AddItem(std::string item);
+  /// A tip for each item that has one, by the item's index.
+  Property<std::vector<std::string>> ItemTips;
+
+  void AddItem(std::string item, std::string tip = {});
   int ListCount() const;
 
   /// The user picks the item at `index`. False when the control or the item is out of reach.

@@ -20,6 +20,10 @@ class PortProbe {
 
   /// What an exclusive opening of port `number` for reading and writing would meet.
   virtual Access access(int number) = 0;
+
+  /// The machine's own name of port `number`, such as "/dev/ttyUSB0", for the user to read; empty
+  /// when it has none.
+  virtual std::string deviceName(int number) = 0;
 };
 
 }  // namespace gsm

@@ -21,6 +21,8 @@ std::string_view nameOf(PropertyId property) {
     case PropertyId::WindowState: return "WindowState";
     case PropertyId::MousePointer: return "MousePointer";
     case PropertyId::TopMost: return "TopMost";
+    case PropertyId::Centred: return "Centred";
+    case PropertyId::ItemTips: return "ItemTips";
   }
   return "";
 }

@@ -7,6 +7,7 @@
 #include <variant>
 #include <vector>
 
+#include "platform/object.h"
 #include "platform/view.h"
 
 namespace gsm {
@@ -19,10 +20,9 @@ std::string_view nameOf(PropertyId property);
 class PropertyBase;
 
 /// What has properties: a window or a control.
-class PropertyOwner {
+class PropertyOwner : public Object {
  public:
   explicit PropertyOwner(std::string name) : name_(std::move(name)) {}
-  virtual ~PropertyOwner() = default;
   PropertyOwner(const PropertyOwner&) = delete;
   PropertyOwner& operator=(const PropertyOwner&) = delete;
 

@@ -6,7 +6,8 @@
 
 namespace gsm {
 
-SerialControl::SerialControl(const Platform& platform) : platform_(platform) {
+SerialControl::SerialControl(const Platform& platform, std::string name)
+    : platform_(platform), name_(std::move(name)) {
   platform_.serialDevice.listen(this);
   platform_.handlers.onRelief([this] { deliverLater(); });
 }

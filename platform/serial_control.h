@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/object.h"
 #include "platform/platform.h"
 #include "platform/serial_device.h"
 
@@ -11,7 +12,7 @@ namespace gsm {
 
 /// The serial communications control: one port, opened and closed at will, plain bytes out and in,
 /// and one event for all that happens on the line.
-class SerialControl : private SerialDevice::Listener {
+class SerialControl : public Object, private SerialDevice::Listener {
  public:
   /// A property whose uses are calls of the control.
   template <class T>
@@ -34,10 +35,13 @@ class SerialControl : private SerialDevice::Listener {
     const Set set_;
   };
 
-  explicit SerialControl(const Platform& platform);
+  /// `name` is the design's.
+  SerialControl(const Platform& platform, std::string name);
   ~SerialControl() override;
   SerialControl(const SerialControl&) = delete;
   SerialControl& operator=(const SerialControl&) = delete;
+
+  const std::string& name() const { return name_; }
 
   /// The port's number, 1 to 255; others fail with `invalidPortNumber`. Can't change while the port
   /// is open (`invalidWhileOpen`).
@@ -106,6 +110,7 @@ class SerialControl : private SerialDevice::Listener {
   void deliverLater();
 
   const Platform& platform_;
+  const std::string name_;
   int port_ = 1;
   std::string settingsText_ = "9600,n,8,1";
   LineSettings line_;

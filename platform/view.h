@@ -21,6 +21,8 @@ enum class PropertyId {
   WindowState,
   MousePointer,
   TopMost,
+  Centred,
+  ItemTips,
 };
 
 /// What shows a window or a control to the user. There may be none.

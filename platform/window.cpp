@@ -9,6 +9,7 @@ Window::Window(Platform& platform, std::string name, WindowDesign design)
       WindowState(*this, PropertyId::WindowState, gsm::WindowState::normal),
       MousePointer(*this, PropertyId::MousePointer, gsm::MousePointer::arrow),
       TopMost(*this, PropertyId::TopMost, false),
+      Centred(*this, PropertyId::Centred, false),
       platform_(platform) {}
 
 void Window::Show() {

@@ -38,6 +38,8 @@ class Window : public PropertyOwner {
   Property<int> WindowState;
   Property<int> MousePointer;
   Property<bool> TopMost;
+  /// Stands in the middle of the screen when it is shown.
+  Property<bool> Centred;
 
   // What the user does. False when the window isn't in reach.
   bool userClose();

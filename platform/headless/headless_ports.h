@@ -23,6 +23,7 @@ class HeadlessPorts : public PortProbe {
 
   bool exists(int number) override { return find(number) != nullptr; }
   Access access(int number) override;
+  std::string deviceName(int) override { return {}; }
 
  private:
   std::vector<Port> ports_;

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
+#include <memory>
 
 #include "tests/simulator/bench.h"
 
@@ -22,7 +22,7 @@ TEST(GuardedTimeline, RunsItsActionsWhileItLives) {
 
 TEST(GuardedTimeline, DropsThemWhenItGoes) {
   VirtualTimeline time;
-  std::optional<GuardedTimeline> guarded(std::in_place, time);
+  auto guarded = std::make_unique<GuardedTimeline>(time);
   int runs = 0;
   guarded->after(milliseconds(5), [&] { ++runs; });
   guarded.reset();
