@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -51,6 +52,9 @@ class Form1 : public Window {
   /// The common last step of every way in which a modem is accepted; saves the port.
   void AcceptPort();
 
+  /// "Port Settings->": lets the user choose the port, and probes the modem there.
+  void Command7_Click();
+
   /// Whether the port is there, held or not.
   bool ComPortExists(int port);
   /// Adds the ports that are free to `Combo2`.
@@ -74,6 +78,56 @@ class Form1 : public Window {
 
   void Timer1_Tick();
 
+  // -- modem/: initialisation --------------------------------------------------------------------
+
+  /// Drives the modem into the working configuration and unlocks the panel; the second one without
+  /// a usable SIM.
+  void InitialiseModem();
+  void InitialiseModemNoSim();
+
+  /// The readers of the transcript in it.
+  void showAutoAnswer();
+  void ShowModemSpeed();
+  void ShowCharacterFraming();
+  /// Selects the framing options by the profile in the transcript, and touches nothing else.
+  void ParseCharacterFraming();
+  /// Takes the service centre's number; the arguments are where "OK" and "ERROR" stand.
+  void ShowServiceCenter(Position ok, Position error);
+
+  // -- modem/: SIM codes -------------------------------------------------------------------------
+
+  /// Asks whether a SIM is there and wants a code, and goes on from there.
+  void CheckSimPin();
+  void HandlePinStatus();
+  void HandlePinResult();
+  /// How many replies to a code have been judged so far.
+  int codeVerdicts() const { return codeVerdicts_; }
+
+  // -- modem/: identity --------------------------------------------------------------------------
+
+  /// The arguments are where the echoed command and "OK" stand.
+  void ShowManufacturer(Position echo, Position ok);
+  void ShowRevision(Position echo, Position ok);
+  /// Nothing calls it: start-up takes the same steps in its own flow.
+  void ShowImei(Position echo);
+
+  // -- modem/: the panel's buttons ---------------------------------------------------------------
+
+  void Command1_Click();
+  void Command2_Click();
+  void Command3_Click();
+  void Command4_Click();
+  void Command5_Click();
+  void Command6_Click();
+  void Command8_Click();
+  void Command9_Click();
+  void Command10_Click();
+  void Command11_Click();
+  void Command12_Click();
+  void Command13_Click();
+  /// Shows the log, empty.
+  void ShowStartupPanel();
+
   // -- modem/: signal and registration -----------------------------------------------------------
 
   /// Asks the modem for signal and registration, which appear in `Form7`.
@@ -87,10 +141,12 @@ class Form1 : public Window {
   void showSpeakerGain(Position key);
   void showMicrophoneGain(Position key);
   void showSideTone(Position key);
+  /// `key` is where "ECHO:" stands, as decimal text.
+  void ShowEchoValues(const std::string& key);
 
   // -- controls ----------------------------------------------------------------------------------
 
-  SerialControl MSComm1{platform()};
+  SerialControl MSComm1{platform(), "MSComm1"};
 
   Label Label1{*this, "Label1"};  // "Open" or "Closed"
   Label Label2{*this, "Label2"};  // the port
@@ -135,7 +191,7 @@ class Form1 : public Window {
   void Form_Unload() override;
 
  private:
-  // Start-up.
+  // Start-up and the end.
   void startFromFile();
   void startFromLine(const std::string& line);
   void startFromSavedPort(const std::string& line);
@@ -143,12 +199,24 @@ class Form1 : public Window {
   void logSearch();
   void sweepPorts();
   bool sweepSpeeds();
-  void showImei();
+  void endProgram();
+  void choosePort();
 
   // Routing.
   void route();
 
+  // The modem.
+  void takeImei(Position echo);
+  void acceptPin();
+  void refusePin();
+  void acceptPuk();
+  void refusePuk();
+  /// Shows `window` in this one's place.
+  void swapTo(Window& window);
+
   Panel& panel_;
+  std::set<int> startUpFiles_;  // the numbers under which start-up reads its file now
+  int codeVerdicts_ = 0;
 };
 
 }  // namespace gsm

@@ -6,7 +6,10 @@ void Panel::start() {
   platform.loop.post([this] { form1.Show(); });
 }
 
-std::vector<Window*> Panel::windows() { return {&form1, &form2, &form6, &form7, &form20}; }
+std::vector<Window*> Panel::windows() {
+  return {&form1,  &form2,  &form3,  &form5,  &form6,  &form7,  &form8,  &form9,
+          &form10, &form11, &form12, &form14, &form15, &form16, &form20, &settings};
+}
 
 Window* Panel::window(std::string_view name) {
   for (Window* window : windows()) {

@@ -1,9 +1,8 @@
 #include "audio/form6.h"
 
-#include "app/panel.h"
-
 namespace gsm {
 
-Form6::Form6(Panel& panel) : Window(panel.platform, "Form6", {.Caption = "GSM-Call Control"}) {}
+Form6::Form6(Panel& panel)
+    : FeatureWindow(panel, "Form6", {.Caption = "GSM-Call Control"}, OnClose::emptiesStatus) {}
 
 }  // namespace gsm

@@ -1,14 +1,11 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/window.h"
+#include "app/feature_window.h"
 
 namespace gsm {
 
-class Panel;
-
 /// The audio window: gains, echo cancellation, side tone, auto-answer.
-class Form6 : public Window {
+class Form6 : public FeatureWindow {
  public:
   explicit Form6(Panel& panel);
 
@@ -29,6 +26,21 @@ class Form6 : public Window {
   Frame Frame9{*this, "Frame9", {.In = &Frame8}};
   OptionButton Option1{*this, "Option1", {.Caption = "SideTone Disabled", .In = &Frame9}};
   OptionButton Option2{*this, "Option2", {.Caption = "SideTone Enabled", .In = &Frame9}};
+  Frame Frame5{*this, "Frame5", {.Caption = "Configure Echo Cancellation", .In = &Frame2}};
+  ComboBox Combo1{*this, "Combo1", {.In = &Frame5}};  // mode
+  ComboBox Combo2{*this, "Combo2", {.In = &Frame5}};  // algorithm
+  Frame Frame6{*this, "Frame6", {.Caption = "Echo Cancellation 1", .In = &Frame5}};
+  Slider Slider3{*this, "Slider3", {.In = &Frame6, .Max = 15, .LargeChange = 1}};
+  Slider Slider4{*this, "Slider4", {.In = &Frame6, .Max = 3, .LargeChange = 1}};
+  Slider Slider5{*this, "Slider5", {.In = &Frame6, .Max = 31, .LargeChange = 2}};
+  Slider Slider6{*this, "Slider6", {.In = &Frame6, .Max = 31, .LargeChange = 2}};
+  Frame Frame7{*this, "Frame7", {.Caption = "Echo Cancellation3", .In = &Frame5}};
+  Slider Slider7{*this, "Slider7", {.In = &Frame7, .Max = 63, .LargeChange = 1}};
+  Slider Slider8{*this, "Slider8", {.In = &Frame7, .Max = 32767, .LargeChange = 1000}};
+  Slider Slider9{
+      *this,
+      "Slider9",
+      {.In = &Frame7, .Min = 64, .Max = 256, .Value = 64, .SmallChange = 0, .LargeChange = 0}};
   Slider Slider10{*this, "Slider10", {.In = &Frame8, .Max = 3, .LargeChange = 1}};
 };
 

@@ -12,14 +12,14 @@ namespace {
 // What a test does when its key stands at `key` in the transcript.
 using Action = std::function<void(Form1& form, Form6& audio, Position key)>;
 
-enum class Clearing { none, whole };
+enum class Clearing { none, byAction, whole };
 
 struct Test {
   int number;
   std::vector<std::string_view> keys;  // the first of them that stands in the transcript acts
   std::string_view alsoNeeds;          // must stand there too, unless empty
   Action action;
-  Clearing clearing;  // of the transcript, once the action is done
+  Clearing clearing;  // of the transcript: never, as the action decides, or once it is done
 };
 
 Action method(void (Form1::*show)(Position)) {
@@ -33,6 +33,22 @@ Action outcome(std::string_view success) {
   };
 }
 
+// The readers of the identity also take where "OK" stands.
+Action method(void (Form1::*show)(Position, Position)) {
+  return
+      [show](Form1& form, Form6&, Position key) { (form.*show)(key, form.Text1.position("OK")); };
+}
+
+Action method(void (Form1::*handle)()) {
+  return [handle](Form1& form, Form6&, Position) { (form.*handle)(); };
+}
+
+void showEchoValues(Form1& form, Form6&, Position key) { form.ShowEchoValues(std::to_string(key)); }
+
+void showServiceCenter(Form1& form, Form6&, Position) {
+  form.ShowServiceCenter(form.Text1.position("OK"), form.Text1.position("ERROR"));
+}
+
 // A ring starts the poll that takes the call prompt down again.
 void startPoll(Form1& form, Form6&, Position) { form.Timer2.Enabled = true; }
 
@@ -43,22 +59,22 @@ const std::vector<Test>& tests() {
       {1, {"CMTI"}, "", {}, Clearing::whole},
       {2, {"+CCWA:"}, "\"", {}, Clearing::none},
       {3, {"NO ANSWER", "NO CARRIER", "BUSY"}, "", {}, Clearing::none},
-      {4, {"ATI0"}, "OK", {}, Clearing::none},
-      {5, {"ATI3"}, "OK", {}, Clearing::none},
-      {6, {"AT+CPBS?"}, "OK", {}, Clearing::none},
+      {4, {"ATI0"}, "OK", method(&Form1::ShowManufacturer), Clearing::byAction},
+      {5, {"ATI3"}, "OK", method(&Form1::ShowRevision), Clearing::byAction},
+      {6, {"AT+CPBS?"}, "OK", {}, Clearing::byAction},
       {7, {"AT+VGR="}, "", outcome("Changes SuccessFul-Speaker"), Clearing::whole},
       {8, {"AT+VGT="}, "", outcome("Changes SuccessFul-Microphone"), Clearing::whole},
       {9, {"VGR:"}, "", method(&Form1::showSpeakerGain), Clearing::whole},
       {10, {"VGT:"}, "", method(&Form1::showMicrophoneGain), Clearing::whole},
-      {11, {"ECHO:"}, "", {}, Clearing::none},
+      {11, {"ECHO:"}, "", showEchoValues, Clearing::byAction},
       {12, {"AT+ECHO="}, "", outcome("Changes SuccessFul"), Clearing::whole},
       {13, {"SIDET:"}, "", method(&Form1::showSideTone), Clearing::whole},
       {14, {"AT+SIDET="}, "", outcome("Changes SuccessFul"), Clearing::whole},
       {15, {"CSQ:"}, "", method(&Form1::showSignal), Clearing::whole},
       {16, {"CREG:"}, "", method(&Form1::showRegistration), Clearing::whole},
-      {17, {"CPIN:"}, "", {}, Clearing::whole},
-      {18, {"+CPIN="}, "", {}, Clearing::none},
-      {19, {"AT+CSCA?"}, "", {}, Clearing::none},
+      {17, {"CPIN:"}, "", method(&Form1::HandlePinStatus), Clearing::whole},
+      {18, {"+CPIN="}, "", method(&Form1::HandlePinResult), Clearing::byAction},
+      {19, {"AT+CSCA?"}, "", showServiceCenter, Clearing::byAction},
       {20, {"RING"}, "", startPoll, Clearing::whole},
       {21, {"+CDS:"}, "", {}, Clearing::none},
   };

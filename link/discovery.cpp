@@ -32,7 +32,7 @@ void Form1::ScanForModem() {
       MSComm1.CommPort = wholeNumber(Combo1.Text.get());
       Label5.Caption = "Scanning Port  " + Combo1.Text;
       if (sweepSpeeds()) {
-        showImei();
+        takeImei(Text1.position("AT+CGSN"));
         ShowPortStatus();
         AcceptPort();
         Text1.clear();
@@ -77,6 +77,7 @@ bool Form1::sweepSpeeds() {
 void Form1::AcceptPort() try {
   ShowPortStatus();
   Show();
+  CheckSimPin();
   panel_.form7.Show();
   Files& files = platform().files;
   // During start-up the number is in use by the reading of this very file: nothing is saved then.

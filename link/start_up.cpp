@@ -1,5 +1,6 @@
 #include "app/panel.h"
 #include "platform/runtime_failure.h"
+#include "platform/scoped_value.h"
 
 namespace gsm {
 
@@ -30,6 +31,7 @@ void Form1::startFromFile() {
 
   const int file = files.freeFile();
   files.openForInput(file, "COM.txt");
+  const ScopedMember guard(startUpFiles_, file);
   // A port that is accepted closes all files, so that the next look at this one fails and ends the
   // load: after a hit no further line is read.
   while (!files.atEnd(file)) startFromLine(files.readLine(file));
@@ -70,17 +72,10 @@ void Form1::startFromSavedPort(const std::string& line) {
     return;
   }
   MSComm1.Settings = settings;
-  showImei();
+  takeImei(Text1.position("AT+CGSN"));
   ShowPortStatus();
   AcceptPort();
   Text1.clear();
-}
-
-// The reply to "AT+CGSN": the number stands behind the echo, its carriage return, and a line end.
-void Form1::showImei() {
-  const Position echo = Text1.position("AT+CGSN");
-  panel_.form2.Label2.Caption = "IMEI: ";
-  panel_.form2.Label3.Caption = Text1.slice(echo + 10, 15);
 }
 
 void Form1::buildPortList() {
@@ -119,12 +114,11 @@ void Form1::sweepPorts() {
   ScanForModem();
 }
 
-void Form1::Form_Resize() {
-  if (WindowState == WindowState::maximised) return;
-  panel_.form7.WindowState = WindowState;
-}
+void Form1::Form_Resize() { followWith(panel_.form7, WindowState); }
 
-void Form1::Form_Unload() {
+void Form1::Form_Unload() { endProgram(); }
+
+void Form1::endProgram() {
   if (MSComm1.PortOpen) {
     send("AT&W");
     Pause(1);

@@ -1,14 +1,11 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/window.h"
+#include "app/feature_window.h"
 
 namespace gsm {
 
-class Panel;
-
 /// Who the modem is: its IMEI, maker, model and revision.
-class Form2 : public Window {
+class Form2 : public FeatureWindow {
  public:
   explicit Form2(Panel& panel);
 
@@ -20,6 +17,15 @@ class Form2 : public Window {
   Label Label5{*this, "Label5", {.In = &Frame2}};  // maker and model
   Label Label6{*this, "Label6", {.In = &Frame2}};  // revision
   CommandButton Command1{*this, "Command1", {.Caption = "View", .In = &Frame1}};
+
+  static constexpr const char* kModelHeading = "ManuFacturer And Model Details ";
+  static constexpr const char* kModelFile = "Model.txt";
+
+ protected:
+  void Form_Load() override;
+
+ private:
+  void Command1_Click();
 };
 
 }  // namespace gsm

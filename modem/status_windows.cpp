@@ -2,6 +2,8 @@
 
 namespace gsm {
 
+Form11::Form11(Panel& panel) : Window(panel.platform, "Form11") {}
+
 Form7::Form7(Panel& panel) : Window(panel.platform, "Form7", {.Caption = "GSM-N/W"}) {}
 
 Form20::Form20(Panel& panel) : Window(panel.platform, "Form20"), panel_(panel) {

@@ -1,0 +1,57 @@
+#include "modem/form10.h"
+
+#include "app/panel.h"
+
+namespace gsm {
+
+Form10::Form10(Panel& panel) : Window(panel.platform, "Form10"), panel_(panel) {
+  Command1.Click = [this] { Command1_Click(); };
+}
+
+void Form10::Form_Load() { platform().files.changeToProgramFolder(); }
+
+void Form10::showPinForm() {
+  Label1.Visible = true;
+  Text1.Visible = true;
+  Label2.Visible = false;
+  Text2.Visible = false;
+}
+
+void Form10::Command1_Click() {
+  const bool pin = Label1.Visible && Text1.Visible;
+  if (pin && !Label2.Visible && !Text2.Visible) {
+    sendPin();
+  } else if (pin && Label2.Visible && Text2.Visible) {
+    sendPuk();
+  }
+}
+
+void Form10::sendPin() {
+  if (!Text1.Text.empty()) {
+    panel_.form1.exchange("AT+CPIN=" + trim(Text1.Text.get()));
+    Text1.Text = "";
+  } else {
+    platform().boxes.show("Enter Valid PIN Number", "GSM");
+  }
+  showPinForm();
+}
+
+void Form10::sendPuk() {
+  if (Text1.Text.empty() || Text2.Text.empty()) {
+    platform().boxes.show("Enter Valid PUK/PIN Number", "GSM");
+    return;
+  }
+  Form1& form1 = panel_.form1;
+  const int verdicts = form1.codeVerdicts();
+  form1.exchangeOnTop("AT+CPIN=" + trim(Text2.Text.get()) + "," + trim(Text1.Text.get()));
+  Text1.Text = "";
+  Text2.Text = "";
+  // A code judged during the wait has set the prompts already: a refused PUK leaves the PIN form.
+  if (form1.codeVerdicts() != verdicts) return;
+  Label1.Visible = true;
+  Text1.Visible = true;
+  Label2.Visible = true;
+  Text2.Visible = true;
+}
+
+}  // namespace gsm

@@ -1,0 +1,53 @@
+#include "app/panel.h"
+#include "platform/runtime_failure.h"
+
+namespace gsm {
+
+// The reply to "AT+CGSN": the number stands behind the echo, its carriage return, and a line end.
+void Form1::takeImei(Position echo) {
+  panel_.form2.Label2.Caption = "IMEI: ";
+  panel_.form2.Label3.Caption = Text1.slice(echo + 10, 15);
+}
+
+void Form1::ShowImei(Position echo) try {
+  takeImei(echo);
+  Text1.clear();
+} catch (const RuntimeFailure& failure) {
+  platform().boxes.show(failure.description());
+}
+
+void Form1::ShowManufacturer(Position echo, Position ok) try {
+  Form2& window = panel_.form2;
+  Label5.Caption = "";
+  window.Label4.Visible = true;
+  window.Label5.Visible = true;
+  window.Label6.Visible = true;
+  window.Label4.Caption = Form2::kModelHeading;
+  window.Label5.Caption = Text1.slice(echo + 8, ok - 9);
+  Text1.clear();
+} catch (const RuntimeFailure&) {
+  // Ends silently.
+}
+
+// One place before ShowManufacturer, although both commands are of one length: there the reply
+// loses its first character (a blank, with these modems), here it is whole.
+void Form1::ShowRevision(Position echo, Position ok) try {
+  Form2& window = panel_.form2;
+  Label5.Caption = "";
+  window.Label6.Visible = true;
+  window.Label6.Caption = Text1.slice(echo + 7, ok - 9);
+  Text1.clear();
+
+  Files& files = platform().files;
+  const int file = files.freeFile();
+  files.openForOutput(file, Form2::kModelFile);
+  files.printLine(file, window.Label3.Caption);
+  files.printLine(file, window.Label5.Caption);
+  files.printLine(file, window.Label6.Caption);
+  // Start-up goes on reading its own file, so that a port accepted there is never saved.
+  files.closeAllBut(startUpFiles_);
+} catch (const RuntimeFailure&) {
+  // Ends silently.
+}
+
+}  // namespace gsm
