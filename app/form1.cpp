@@ -8,6 +8,7 @@ Form1::Form1(Panel& panel)
     : Window(panel.platform, "Form1", {.Caption = "GSM-APPLICATION"}), panel_(panel) {
   MSComm1.OnComm = [this] { OnComm(); };
   Timer1.Tick = [this] { Timer1_Tick(); };
+  Timer2.Tick = [this] { Timer2_Tick(); };
   Label8.Click = [this] { networkset(); };
   Command1.Click = [this] { Command1_Click(); };
   Command2.Click = [this] { Command2_Click(); };

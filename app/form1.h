@@ -77,6 +77,22 @@ class Form1 : public Window {
   void ProcessResponse(const std::string& text, bool marked);
 
   void Timer1_Tick();
+  void Timer2_Tick();
+
+  // What comes without a command; `key` is where its word stands in the transcript.
+  void tellOfMessage(Position key);
+  void tellOfWaitingCall(Position key);
+  void tellOfNoAnswer(Position key);
+  void tellOfNoCarrier(Position key);
+  void tellOfBusy(Position key);
+  void tellOfRing(Position key);
+  void readStatusReport(Position key);
+
+  // -- phonebook/ --------------------------------------------------------------------------------
+
+  /// Downloads the SIM's phone book into the mirror and the call window's list; the counts are in
+  /// the transcript.
+  void SavePhoneBook();
 
   // -- modem/: initialisation --------------------------------------------------------------------
 
@@ -204,6 +220,9 @@ class Form1 : public Window {
 
   // Routing.
   void route();
+  void showCaller(const std::string& number, const std::string& nameWords,
+                  const std::string& numberWords);
+  void saveEntry(int location);
 
   // The modem.
   void takeImei(Position echo);

@@ -7,7 +7,7 @@ void Panel::start() {
 }
 
 std::vector<Window*> Panel::windows() {
-  return {&form1,  &form2,  &form3,  &form5,  &form6,  &form7,  &form8,  &form9,
+  return {&form1,  &form2,  &form3,  &form4,  &form5,  &form6,  &form7,  &form8,   &form9,
           &form10, &form11, &form12, &form14, &form15, &form16, &form20, &settings};
 }
 

@@ -13,6 +13,7 @@
 #include "modem/form7.h"
 #include "module/form16.h"
 #include "phonebook/form3.h"
+#include "phonebook/form4.h"
 #include "phonebook/form5.h"
 #include "platform/platform.h"
 #include "security/form9.h"
@@ -40,6 +41,7 @@ class Panel {
   Form1 form1{*this};
   Form2 form2{*this};
   Form3 form3{*this};
+  Form4 form4{*this};
   Form5 form5{*this};
   Form6 form6{*this};
   Form7 form7{*this};

@@ -1,7 +1,35 @@
-#include "app/form1.h"
+#include "app/panel.h"
+#include "platform/runtime_failure.h"
 
 namespace gsm {
 
 void Form1::Timer1_Tick() { Label4.Caption = platform().clock.localTime().timeOfDay(); }
+
+// The poll: takes the call prompt down when the call has gone, since no line says so when the
+// caller gives up silently. Nothing guards it against other handlers, and it clears nothing.
+void Form1::Timer2_Tick() try {
+  exchangeOnTop("AT+CIND?");
+  const Position key = Text1.position("+CIND:");
+  if (Text1.holds("ERROR")) Timer2.Enabled = false;
+  if (key == 0) return;
+
+  // +CIND: 5,4,1,0,1,0,0 - the fifth field is the call's.
+  constexpr int kCallField = 5;
+  constexpr int kFieldsTaken = 6;
+  std::string fields = Text1.slice(key + 7, Text1.position("OK"));
+  std::string call;
+  for (int field = 1; field <= kFieldsTaken; ++field) {
+    const Position comma = position(",", fields);
+    const std::string value = gsm::slice(fields, 1, comma - 1);
+    fields = gsm::slice(fields, comma + 1, position("OK", fields));
+    if (field == kCallField) call = value;
+  }
+  if (number(call) == 0) {
+    panel_.form5.Hide();
+    Timer2.Enabled = false;
+  }
+} catch (const RuntimeFailure&) {
+  // Ends silently.
+}
 
 }  // namespace gsm

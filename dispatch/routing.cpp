@@ -14,11 +14,15 @@ using Action = std::function<void(Form1& form, Form6& audio, Position key)>;
 
 enum class Clearing { none, byAction, whole };
 
+struct Branch {
+  std::string_view key;
+  Action action;
+};
+
 struct Test {
   int number;
-  std::vector<std::string_view> keys;  // the first of them that stands in the transcript acts
-  std::string_view alsoNeeds;          // must stand there too, unless empty
-  Action action;
+  std::vector<Branch> branches;  // the first whose key stands in the transcript acts
+  std::string_view alsoNeeds;    // must stand there too, unless empty
   Clearing clearing;  // of the transcript: never, as the action decides, or once it is done
 };
 
@@ -49,34 +53,36 @@ void showServiceCenter(Form1& form, Form6&, Position) {
   form.ShowServiceCenter(form.Text1.position("OK"), form.Text1.position("ERROR"));
 }
 
-// A ring starts the poll that takes the call prompt down again.
-void startPoll(Form1& form, Form6&, Position) { form.Timer2.Enabled = true; }
-
 // The row of tests. Each looks at the transcript anew, so a test that clears it makes all tests
 // behind it fail, and one that doesn't leaves the same text to them and to the next call.
 const std::vector<Test>& tests() {
   static const std::vector<Test> row = {
-      {1, {"CMTI"}, "", {}, Clearing::whole},
-      {2, {"+CCWA:"}, "\"", {}, Clearing::none},
-      {3, {"NO ANSWER", "NO CARRIER", "BUSY"}, "", {}, Clearing::none},
-      {4, {"ATI0"}, "OK", method(&Form1::ShowManufacturer), Clearing::byAction},
-      {5, {"ATI3"}, "OK", method(&Form1::ShowRevision), Clearing::byAction},
-      {6, {"AT+CPBS?"}, "OK", {}, Clearing::byAction},
-      {7, {"AT+VGR="}, "", outcome("Changes SuccessFul-Speaker"), Clearing::whole},
-      {8, {"AT+VGT="}, "", outcome("Changes SuccessFul-Microphone"), Clearing::whole},
-      {9, {"VGR:"}, "", method(&Form1::showSpeakerGain), Clearing::whole},
-      {10, {"VGT:"}, "", method(&Form1::showMicrophoneGain), Clearing::whole},
-      {11, {"ECHO:"}, "", showEchoValues, Clearing::byAction},
-      {12, {"AT+ECHO="}, "", outcome("Changes SuccessFul"), Clearing::whole},
-      {13, {"SIDET:"}, "", method(&Form1::showSideTone), Clearing::whole},
-      {14, {"AT+SIDET="}, "", outcome("Changes SuccessFul"), Clearing::whole},
-      {15, {"CSQ:"}, "", method(&Form1::showSignal), Clearing::whole},
-      {16, {"CREG:"}, "", method(&Form1::showRegistration), Clearing::whole},
-      {17, {"CPIN:"}, "", method(&Form1::HandlePinStatus), Clearing::whole},
-      {18, {"+CPIN="}, "", method(&Form1::HandlePinResult), Clearing::byAction},
-      {19, {"AT+CSCA?"}, "", showServiceCenter, Clearing::byAction},
-      {20, {"RING"}, "", startPoll, Clearing::whole},
-      {21, {"+CDS:"}, "", {}, Clearing::none},
+      {1, {{"CMTI", method(&Form1::tellOfMessage)}}, "", Clearing::whole},
+      {2, {{"+CCWA:", method(&Form1::tellOfWaitingCall)}}, "\"", Clearing::none},
+      {3,
+       {{"NO ANSWER", method(&Form1::tellOfNoAnswer)},
+        {"NO CARRIER", method(&Form1::tellOfNoCarrier)},
+        {"BUSY", method(&Form1::tellOfBusy)}},
+       "",
+       Clearing::none},
+      {4, {{"ATI0", method(&Form1::ShowManufacturer)}}, "OK", Clearing::byAction},
+      {5, {{"ATI3", method(&Form1::ShowRevision)}}, "OK", Clearing::byAction},
+      {6, {{"AT+CPBS?", method(&Form1::SavePhoneBook)}}, "OK", Clearing::byAction},
+      {7, {{"AT+VGR=", outcome("Changes SuccessFul-Speaker")}}, "", Clearing::whole},
+      {8, {{"AT+VGT=", outcome("Changes SuccessFul-Microphone")}}, "", Clearing::whole},
+      {9, {{"VGR:", method(&Form1::showSpeakerGain)}}, "", Clearing::whole},
+      {10, {{"VGT:", method(&Form1::showMicrophoneGain)}}, "", Clearing::whole},
+      {11, {{"ECHO:", showEchoValues}}, "", Clearing::byAction},
+      {12, {{"AT+ECHO=", outcome("Changes SuccessFul")}}, "", Clearing::whole},
+      {13, {{"SIDET:", method(&Form1::showSideTone)}}, "", Clearing::whole},
+      {14, {{"AT+SIDET=", outcome("Changes SuccessFul")}}, "", Clearing::whole},
+      {15, {{"CSQ:", method(&Form1::showSignal)}}, "", Clearing::whole},
+      {16, {{"CREG:", method(&Form1::showRegistration)}}, "", Clearing::whole},
+      {17, {{"CPIN:", method(&Form1::HandlePinStatus)}}, "", Clearing::whole},
+      {18, {{"+CPIN=", method(&Form1::HandlePinResult)}}, "", Clearing::byAction},
+      {19, {{"AT+CSCA?", showServiceCenter}}, "", Clearing::byAction},
+      {20, {{"RING", method(&Form1::tellOfRing)}}, "", Clearing::whole},
+      {21, {{"+CDS:", method(&Form1::readStatusReport)}}, "", Clearing::none},
   };
   return row;
 }
@@ -95,11 +101,11 @@ void Form1::ProcessResponse(const std::string& text, bool marked) try {
 
 void Form1::route() {
   for (const Test& test : tests()) {
-    const auto key = std::find_if(test.keys.begin(), test.keys.end(),
-                                  [this](std::string_view each) { return Text1.holds(each); });
-    if (key == test.keys.end()) continue;
+    const auto branch = std::find_if(test.branches.begin(), test.branches.end(),
+                                     [this](const Branch& each) { return Text1.holds(each.key); });
+    if (branch == test.branches.end()) continue;
     if (!test.alsoNeeds.empty() && !Text1.holds(test.alsoNeeds)) continue;
-    if (test.action) test.action(*this, panel_.form6, Text1.position(*key));
+    branch->action(*this, panel_.form6, Text1.position(branch->key));
     if (test.clearing == Clearing::whole) Text1.clear();
   }
 }

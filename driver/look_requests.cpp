@@ -137,12 +137,4 @@ Json Session::state(const Request&) {
   return state;
 }
 
-Json Session::rows(const Request&) {
-  throw BadRequest("the phone book isn't there yet: no table has rows");
-}
-
-Json Session::store(const Request&) {
-  throw BadRequest("the phone book isn't there yet: no table can be stored");
-}
-
 }  // namespace gsm::driver

@@ -81,6 +81,7 @@ Json Session::start(const Request& request) {
   std::optional<Plug> plug;
   if (request.has("modem") && !request.raw("modem").is_null()) plug = plugOf(request.raw("modem"));
 
+  folder_ = folder;
   world_ = std::make_unique<HeadlessPanel>(folder, now);
   world_->machine.ports.set(ports);
   if (plug) {

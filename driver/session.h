@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -65,6 +66,7 @@ class Session {
   // The phone book.
   Json rows(const Request& request);
   Json store(const Request& request);
+  std::filesystem::path bookFolder(const Request& request) const;
 
   /// Queues what the user does. An action that returns false was out of the user's reach.
   void act(const Request& request, std::function<bool()> action);
@@ -79,6 +81,7 @@ class Session {
   auto controlAs(const Request& request, const char* deed);
 
   std::unique_ptr<HeadlessPanel> world_;
+  std::filesystem::path folder_;  // the program's own, once it has been started
   int refused_ = 0;
 };
 

@@ -1,9 +1,32 @@
 #include "phonebook/form5.h"
 
 #include "app/panel.h"
+#include "platform/runtime_failure.h"
 
 namespace gsm {
 
-Form5::Form5(Panel& panel) : Window(panel.platform, "Form5", {.Caption = "Call Received....."}) {}
+Form5::Form5(Panel& panel)
+    : Window(panel.platform, "Form5", {.Caption = "Call Received....."}), panel_(panel) {
+  Command1.Click = [this] { answer(); };
+  Command2.Click = [this] { hangUp(); };
+}
+
+void Form5::Form_Load() { platform().files.changeToProgramFolder(); }
+
+// The window stays, so that the call can be ended from it.
+void Form5::answer() try {
+  panel_.form1.exchangeOnTop("ATA");
+  panel_.form1.Text1.clear();
+} catch (const RuntimeFailure&) {
+  // Ends silently.
+}
+
+void Form5::hangUp() try {
+  panel_.form1.exchange("ATH");
+  panel_.form1.Text1.clear();
+  Hide();
+} catch (const RuntimeFailure&) {
+  // Ends silently.
+}
 
 }  // namespace gsm

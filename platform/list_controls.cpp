@@ -23,6 +23,20 @@ void ListControl::AddItem(std::string item, std::string tip) {
   List.change([&](std::vector<std::string>& items) { items.push_back(std::move(item)); });
 }
 
+void ListControl::RemoveItem(int index) {
+  reference();
+  const int count = static_cast<int>(List.peek().size());
+  if (index < 0 || index >= count) throw failure::invalidArgument();
+  const auto erase = [index](std::vector<std::string>& items) {
+    items.erase(items.begin() + index);
+  };
+  const int selection = ListIndex.peek();
+  ItemTips.change(erase);
+  List.change(erase);
+  if (selection == index) ListIndex.store(-1);
+  if (selection > index) ListIndex.store(selection - 1);
+}
+
 int ListControl::ListCount() const { return static_cast<int>(List.get().size()); }
 
 void ListControl::select(int index) {

@@ -21,6 +21,9 @@ class ListControl : public Control {
   Property<std::vector<std::string>> ItemTips;
 
   void AddItem(std::string item, std::string tip = {});
+  /// Takes the item at `index` out; nothing is selected then if it was the selected one. Fails with
+  /// `invalidArgument` when there is none.
+  void RemoveItem(int index);
   int ListCount() const;
 
   /// The user picks the item at `index`. False when the control or the item is out of reach.

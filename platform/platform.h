@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/clock.h"
+#include "platform/database.h"
 #include "platform/event_loop.h"
 #include "platform/files.h"
 #include "platform/handler_stack.h"
@@ -23,6 +24,7 @@ struct Platform {
   PortProbe& ports;
   SerialDevice& serialDevice;
   SettingsStore& settings;
+  DatabaseEngine& database;
 };
 
 }  // namespace gsm

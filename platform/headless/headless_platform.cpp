@@ -15,6 +15,6 @@ void HeadlessProgram::end() {
 HeadlessPlatform::HeadlessPlatform(std::filesystem::path folder, LocalTime start)
     : time(start, [this] { return handlers_.depth() == 0; }),
       files(std::move(folder)),
-      platform_{time, time, handlers_, boxes, program_, files, ports, line, settings} {}
+      platform_{time, time, handlers_, boxes, program_, files, ports, line, settings, database} {}
 
 }  // namespace gsm

@@ -9,6 +9,7 @@
 #include "platform/headless/headless_ports.h"
 #include "platform/headless/virtual_time.h"
 #include "platform/platform.h"
+#include "platform/sqlite/sqlite_engine.h"
 
 namespace gsm {
 
@@ -50,6 +51,7 @@ class HeadlessPlatform {
   HeadlessBoxes boxes{time, time};
   HeadlessSettings settings;
   Files files;
+  SqliteEngine database;
 
  private:
   HeadlessProgram program_{files, line};

@@ -1,0 +1,76 @@
+#include "app/panel.h"
+
+namespace gsm {
+namespace {
+
+constexpr int kNewsColour = 0xC0C0FF;  // a light red
+
+// +CLIP: "0146290800",129 - the number lies between the key's quote and the transcript's first
+// comma, so a comma further ahead gives a negative length.
+std::string callerNumber(const Transcript& transcript, Position key) {
+  return transcript.slice(key + 8, transcript.position(",") - key - 9);
+}
+
+std::string lastCharacters(const std::string& text, std::size_t count) {
+  return text.size() <= count ? text : text.substr(text.size() - count);
+}
+
+}  // namespace
+
+// CMTI: "SM",3
+void Form1::tellOfMessage(Position key) {
+  panel_.form11.Show();
+  Pause(3);
+  Command3.BackColor = kNewsColour;
+  panel_.form11.Hide();
+  // Two characters, so a letter counts only at the very end of the transcript.
+  std::string index = Text1.slice(key + 11, 2);
+  if (index == "A") index = "10";
+  if (index == "B") index = "11";
+  if (index == "C") index = "12";
+  panel_.form8.Label4.Caption = "New Message Received." + index;
+}
+
+// Shows the prompt with the caller's name where the mirror knows the number, else with the number.
+void Form1::showCaller(const std::string& number, const std::string& nameWords,
+                       const std::string& numberWords) {
+  DataControl& mirror = panel_.form3.Data1;
+  mirror.Refresh();
+  RecordSet& entries = mirror.Recordset();
+  // The blank before the closing quote belongs to the criterion.
+  entries.FindFirst("right(number,10) = '" + lastCharacters(number, 10) + " '");
+  const std::string words =
+      entries.NoMatch() ? numberWords + number : nameWords + entries.field("name");
+  panel_.form5.Show();
+  panel_.form5.Label1.Caption = words;
+}
+
+// +CCWA: "0146290800",145,1
+void Form1::tellOfWaitingCall(Position key) {
+  showCaller(callerNumber(Text1, key), "Call Waiting- ", "Call Waiting-  ");
+}
+
+void Form1::tellOfNoAnswer(Position) { panel_.form3.Label3.Caption = "No Answer.Plz Disconnect"; }
+
+void Form1::tellOfNoCarrier(Position) {
+  panel_.form3.Label3.Caption = "No Carrier.Plz Disconnect";
+  panel_.form5.Hide();
+}
+
+void Form1::tellOfBusy(Position) { panel_.form3.Label3.Caption = "Busy.Plz Disconnect"; }
+
+// A ring without a number opens no prompt, but starts the poll all the same.
+void Form1::tellOfRing(Position) {
+  const Position clip = Text1.position("+CLIP:");
+  if (clip != 0) showCaller(callerNumber(Text1, clip), "Call Received From  ", "Call Received-  ");
+  Timer2.Enabled = true;
+}
+
+// The time stamp of a status report is read and goes nowhere.
+void Form1::readStatusReport(Position key) {
+  const std::string report = Text1.slice(key + 6, 25);
+  const std::string stamp = gsm::slice(report, position("\"", report) + 1, 20);
+  before("\"", stamp);
+}
+
+}  // namespace gsm

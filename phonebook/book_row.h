@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+namespace gsm {
+
+/// The row of an entry in the call window's list: the index, two blanks, the number padded with
+/// blanks to 20 characters, the name. `invalidArgument` when the number is longer.
+std::string bookRow(const std::string& index, const std::string& number, const std::string& name);
+
+/// The index at the beginning of a row; empty when there is no row.
+std::string rowIndex(const std::string& row);
+
+/// The number in a row; empty when nothing stands behind it (an entry without a name).
+std::string rowNumber(const std::string& row);
+
+}  // namespace gsm

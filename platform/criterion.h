@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace gsm {
+
+/// What a row must meet: a column's text, or its last characters, equal to a text.
+struct Criterion {
+  std::string column;
+  std::optional<int> last;  // compare only so many of the column's last characters
+  std::string text;
+};
+
+/// Reads `column = 'text'` or `right(column, n) = 'text'`, with blanks wherever they do no harm.
+/// Nothing when it is of another form: above all when the text holds an apostrophe.
+std::optional<Criterion> parseCriterion(std::string_view criterion);
+
+}  // namespace gsm

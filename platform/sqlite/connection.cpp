@@ -1,0 +1,121 @@
+#include "platform/sqlite/connection.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "platform/code_page.h"
+#include "platform/runtime_failure.h"
+
+namespace gsm {
+namespace {
+
+// Numbers of the run-time's failures of a database, by what the library says.
+RuntimeFailure failureOf(sqlite3* handle) {
+  const std::string description = fromUtf8(sqlite3_errmsg(handle));
+  switch (sqlite3_errcode(handle) & 0xFF) {
+    case SQLITE_NOTADB:
+    case SQLITE_CORRUPT: return {3343, "Unrecognized database format: " + description};
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED: return {3218, "Couldn't update; currently locked: " + description};
+    case SQLITE_READONLY: return {3027, "Can't update. Database or object is read-only."};
+    case SQLITE_FULL: return {3049, "Disk full: " + description};
+    case SQLITE_CANTOPEN: return {3051, "Couldn't open the database: " + description};
+    default: return {3146, "Database failure: " + description};
+  }
+}
+
+char foldCase(char character) {
+  const auto byte = static_cast<unsigned char>(character);
+  if (byte >= 'A' && byte <= 'Z') return static_cast<char>(byte + 0x20);
+  if (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7) return static_cast<char>(byte + 0x20);
+  switch (byte) {
+    case 0x8A: return static_cast<char>(0x9A);
+    case 0x8C: return static_cast<char>(0x9C);
+    case 0x8E: return static_cast<char>(0x9E);
+    case 0x9F: return static_cast<char>(0xFF);
+    default: return character;
+  }
+}
+
+// Texts are equal without regard to case and to trailing blanks.
+std::string comparable(const void* utf8, int size) {
+  std::string text =
+      fromUtf8(std::string_view(static_cast<const char*>(utf8), static_cast<std::size_t>(size)));
+  text.erase(text.find_last_not_of(' ') + 1);
+  std::transform(text.begin(), text.end(), text.begin(), foldCase);
+  return text;
+}
+
+int collate(void*, int sizeA, const void* a, int sizeB, const void* b) {
+  return comparable(a, sizeA).compare(comparable(b, sizeB));
+}
+
+}  // namespace
+
+Connection::Connection(const std::filesystem::path& file) : handle_(nullptr, &sqlite3_close) {
+  sqlite3* handle = nullptr;
+  const int result =
+      sqlite3_open_v2(file.c_str(), &handle, SQLITE_OPEN_READWRITE, /*zVfs=*/nullptr);
+  handle_.reset(handle);
+  if (result != SQLITE_OK) throw failureOf(handle);
+  sqlite3_extended_result_codes(handle, 1);
+  sqlite3_create_collation(handle, "PHONEBOOK", SQLITE_UTF8, nullptr, collate);
+}
+
+std::vector<std::string> Connection::columnsOf(const std::string& table) const {
+  Statement query(*this, "SELECT name FROM pragma_table_info(?1)");
+  query.bind(1, table);
+  std::vector<std::string> columns;
+  while (query.step()) columns.push_back(query.text(0));
+  return columns;
+}
+
+Statement::Statement(const Connection& connection, const std::string& sql)
+    : connection_(connection), statement_(nullptr, &sqlite3_finalize) {
+  sqlite3_stmt* statement = nullptr;
+  const char* rest = nullptr;
+  const int result = sqlite3_prepare_v2(connection.handle(), sql.c_str(),
+                                        static_cast<int>(sql.size()), &statement, &rest);
+  statement_.reset(statement);
+  if (result != SQLITE_OK) throw failureOf(connection.handle());
+  if (statement == nullptr) throw RuntimeFailure(3129, "Invalid SQL statement");
+}
+
+void Statement::bind(int parameter, const std::string& text) {
+  sqlite3_bind_text(statement_.get(), parameter, text.data(), static_cast<int>(text.size()),
+                    SQLITE_TRANSIENT);
+}
+
+void Statement::bind(int parameter, sqlite3_int64 number) {
+  sqlite3_bind_int64(statement_.get(), parameter, number);
+}
+
+bool Statement::step() {
+  switch (sqlite3_step(statement_.get())) {
+    case SQLITE_ROW: return true;
+    case SQLITE_DONE: return false;
+    default: throw failureOf(connection_.handle());
+  }
+}
+
+sqlite3_int64 Statement::number(int column) const {
+  return sqlite3_column_int64(statement_.get(), column);
+}
+
+std::string Statement::text(int column) const {
+  const unsigned char* text = sqlite3_column_text(statement_.get(), column);
+  const int size = sqlite3_column_bytes(statement_.get(), column);
+  if (text == nullptr) return {};
+  return {reinterpret_cast<const char*>(text), static_cast<std::size_t>(size)};
+}
+
+std::string quotedName(const std::string& name) {
+  std::string quoted = "\"";
+  for (const char character : name) {
+    if (character == '"') quoted += '"';
+    quoted += character;
+  }
+  return quoted + "\"";
+}
+
+}  // namespace gsm

@@ -1,0 +1,35 @@
+#include "platform/sqlite/phone_book_file.h"
+
+#include <fstream>
+
+#include "platform/runtime_failure.h"
+#include "platform/sqlite/connection.h"
+
+namespace gsm {
+
+const std::vector<PhoneBookTable>& phoneBookTables() {
+  static const std::vector<PhoneBookTable> tables = {
+      {"DATA", {"Index", "Number", "Name"}},
+      {"Details", {"TotalIndex", "UsedIndex"}},
+  };
+  return tables;
+}
+
+void createPhoneBook(const std::filesystem::path& file) {
+  if (std::filesystem::exists(file)) {
+    throw RuntimeFailure(3204, "There is a file '" + file.string() + "' already.");
+  }
+  if (!std::ofstream(file)) {
+    throw RuntimeFailure(3051, "Couldn't make the file '" + file.string() + "'.");
+  }
+  const Connection connection(file);  // an empty file is an empty database
+  for (const PhoneBookTable& table : phoneBookTables()) {
+    std::string columns;
+    for (const std::string& column : table.columns) {
+      columns += (columns.empty() ? "" : ", ") + quotedName(column) + " TEXT";
+    }
+    Statement(connection, "CREATE TABLE " + quotedName(table.name) + " (" + columns + ")").step();
+  }
+}
+
+}  // namespace gsm

@@ -1,0 +1,87 @@
+#include "platform/sqlite/sqlite_engine.h"
+
+#include <strings.h>
+
+#include <array>
+#include <fstream>
+#include <string_view>
+
+#include "platform/runtime_failure.h"
+#include "platform/sqlite/connection.h"
+#include "platform/sqlite/sqlite_record_set.h"
+
+namespace gsm {
+namespace {
+
+namespace fs = std::filesystem;
+
+class SqliteDatabase : public Database {
+ public:
+  explicit SqliteDatabase(const fs::path& file) : connection_(std::make_shared<Connection>(file)) {}
+
+  void Execute(const std::string& statement) override {
+    Statement run(*connection_, statement);
+    while (run.step()) {}
+  }
+
+  std::unique_ptr<RecordSet> openRecordSet(const std::string& table) override {
+    return std::make_unique<SqliteRecordSet>(connection_, table);
+  }
+
+ private:
+  std::shared_ptr<Connection> connection_;
+};
+
+// The file of that name, in whatever case it is written.
+fs::path spelled(const fs::path& file) {
+  std::error_code error;
+  if (fs::exists(file, error)) return file;
+  for (const auto& entry : fs::directory_iterator(file.parent_path(), error)) {
+    if (strcasecmp(entry.path().filename().c_str(), file.filename().c_str()) == 0) {
+      return entry.path();
+    }
+  }
+  return file;
+}
+
+// Phone books of old machines are files of another engine, with this text at their beginning.
+bool isJetFile(const fs::path& file) {
+  constexpr std::string_view kMark = "Standard Jet DB";
+  std::array<char, 4 + kMark.size()> head{};
+  std::ifstream stream(file, std::ios::binary);
+  stream.read(head.data(), static_cast<std::streamsize>(head.size()));
+  return stream && std::string_view(head.data() + 4, kMark.size()) == kMark;
+}
+
+}  // namespace
+
+std::shared_ptr<Database> SqliteEngine::OpenDatabase(const fs::path& name) {
+  const fs::path file = spelled(name);
+  std::error_code error;
+  if (!fs::is_regular_file(file, error)) {
+    throw RuntimeFailure(3024, "Could not find file '" + file.string() + "'.");
+  }
+  if (isJetFile(file)) {
+    throw RuntimeFailure(3343, "Unrecognized database format '" + file.string() +
+                                   "': it comes from an old machine. Bring it over with "
+                                   "phonebook-import OLD NEW.");
+  }
+  return std::make_shared<SqliteDatabase>(file);
+}
+
+std::shared_ptr<Database> TellingEngine::OpenDatabase(const fs::path& file) {
+  try {
+    return engine_.OpenDatabase(file);
+  } catch (const RuntimeFailure& failure) {
+    if (!told_) {
+      told_ = true;
+      tell_("The phone book " + fs::absolute(file).string() +
+            " can't be used: " + failure.description() +
+            " Lay a phone book there: an empty one comes with the program, phonebook-import "
+            "brings one over from an old machine.");
+    }
+    throw;
+  }
+}
+
+}  // namespace gsm

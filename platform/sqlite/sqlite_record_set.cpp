@@ -1,0 +1,154 @@
+#include "platform/sqlite/sqlite_record_set.h"
+
+#include <algorithm>
+
+#include "platform/code_page.h"
+#include "platform/criterion.h"
+#include "platform/runtime_failure.h"
+
+namespace gsm {
+namespace {
+
+RuntimeFailure noCurrentRecord() { return {3021, "No current record."}; }
+
+bool sameName(const std::string& a, const std::string& b) {
+  return sqlite3_stricmp(a.c_str(), b.c_str()) == 0;
+}
+
+}  // namespace
+
+SqliteRecordSet::SqliteRecordSet(std::shared_ptr<Connection> connection, std::string table)
+    : connection_(std::move(connection)),
+      table_(quotedName(table)),
+      columns_(connection_->columnsOf(table)) {
+  if (columns_.empty()) {
+    throw RuntimeFailure(3078, "Could not find the input table or query '" + table + "'.");
+  }
+  Statement query(*connection_, "SELECT rowid FROM " + table_ + " ORDER BY rowid");
+  while (query.step()) keys_.push_back(query.number(0));
+}
+
+void SqliteRecordSet::MoveFirst() {
+  if (keys_.empty()) throw noCurrentRecord();
+  current_ = 0;
+}
+
+void SqliteRecordSet::MoveNext() {
+  if (isEof()) throw noCurrentRecord();
+  ++current_;
+}
+
+sqlite3_int64 SqliteRecordSet::currentKey() const {
+  if (isEof()) throw noCurrentRecord();
+  return keys_[current_];
+}
+
+const std::string& SqliteRecordSet::ownName(const std::string& column) const {
+  const auto found =
+      std::find_if(columns_.begin(), columns_.end(),
+                   [&column](const std::string& each) { return sameName(each, column); });
+  if (found == columns_.end()) throw RuntimeFailure(3265, "Item not found in this collection.");
+  return *found;
+}
+
+void SqliteRecordSet::FindFirst(const std::string& text) {
+  const auto criterion = parseCriterion(text);
+  if (!criterion) throw RuntimeFailure(3077, "Syntax error in expression: " + text);
+  std::string value = "ifnull(" + quotedName(ownName(criterion->column)) + ",'')";
+  if (criterion->last) {
+    const std::string count = std::to_string(*criterion->last);
+    value = "CASE WHEN length(" + value + ")<=" + count + " THEN " + value + " ELSE substr(" +
+            value + ",length(" + value + ")-" + count + "+1) END";
+  }
+  Statement query(*connection_, "SELECT rowid FROM " + table_ + " WHERE (" + value +
+                                    ")=?1 COLLATE PHONEBOOK ORDER BY rowid");
+  query.bind(1, toUtf8(criterion->text));
+  noMatch_ = true;
+  while (noMatch_ && query.step()) {
+    // A row that another set has added meanwhile is not of this set before its next opening.
+    const auto key = std::lower_bound(keys_.begin(), keys_.end(), query.number(0));
+    if (key == keys_.end() || *key != query.number(0)) continue;
+    current_ = static_cast<std::size_t>(key - keys_.begin());
+    noMatch_ = false;
+  }
+}
+
+std::string SqliteRecordSet::field(const std::string& column) {
+  const std::string& name = ownName(column);
+  if (change_ != Change::none) {
+    const auto set = values_.find(name);
+    if (set != values_.end()) return fromUtf8(set->second);
+    if (change_ == Change::add) return {};
+  }
+  Statement query(*connection_, "SELECT CAST(" + quotedName(name) + " AS TEXT) FROM " + table_ +
+                                    " WHERE rowid=?1");
+  query.bind(1, currentKey());
+  if (!query.step()) throw RuntimeFailure(3167, "Record is deleted.");
+  return fromUtf8(query.text(0));
+}
+
+void SqliteRecordSet::AddNew() {
+  change_ = Change::add;
+  values_.clear();
+}
+
+void SqliteRecordSet::Edit() {
+  currentKey();  // there must be one
+  change_ = Change::edit;
+  values_.clear();
+}
+
+void SqliteRecordSet::setField(const std::string& column, const std::string& value) {
+  if (change_ == Change::none) {
+    throw RuntimeFailure(3020, "Update or CancelUpdate without AddNew or Edit.");
+  }
+  values_[ownName(column)] = toUtf8(value);
+}
+
+void SqliteRecordSet::Update() {
+  switch (change_) {
+    case Change::none: throw RuntimeFailure(3020, "Update or CancelUpdate without AddNew or Edit.");
+    case Change::add: insertRow(); break;
+    case Change::edit: updateRow(); break;
+  }
+  change_ = Change::none;
+  values_.clear();
+}
+
+void SqliteRecordSet::insertRow() {
+  std::string names;
+  std::string parameters;
+  for (const auto& [name, value] : values_) {
+    names += (names.empty() ? "" : ",") + quotedName(name);
+    parameters += parameters.empty() ? "?" : ",?";
+  }
+  Statement insertion(*connection_, names.empty() ? "INSERT INTO " + table_ + " DEFAULT VALUES"
+                                                  : "INSERT INTO " + table_ + "(" + names +
+                                                        ") VALUES(" + parameters + ")");
+  int parameter = 0;
+  for (const auto& [name, value] : values_) insertion.bind(++parameter, value);
+  insertion.step();
+  keys_.push_back(sqlite3_last_insert_rowid(connection_->handle()));
+}
+
+void SqliteRecordSet::updateRow() {
+  if (values_.empty()) return;
+  std::string assignments;
+  for (const auto& [name, value] : values_) {
+    assignments += (assignments.empty() ? "" : ",") + quotedName(name) + "=?";
+  }
+  Statement change(*connection_, "UPDATE " + table_ + " SET " + assignments + " WHERE rowid=?");
+  int parameter = 0;
+  for (const auto& [name, value] : values_) change.bind(++parameter, value);
+  change.bind(++parameter, currentKey());
+  change.step();
+}
+
+void SqliteRecordSet::Delete() {
+  Statement deletion(*connection_, "DELETE FROM " + table_ + " WHERE rowid=?1");
+  deletion.bind(1, currentKey());
+  deletion.step();
+  keys_.erase(keys_.begin() + static_cast<std::ptrdiff_t>(current_));
+}
+
+}  // namespace gsm
