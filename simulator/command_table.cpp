@@ -8,8 +8,8 @@ namespace gsm::simulator {
 namespace {
 
 constexpr CommandRows (*kTables[])() = {
-    identityCommands, lineCommands, profileCommands, simCommands,
-    networkCommands,  callCommands, messageCommands,
+    identityCommands, lineCommands, profileCommands,    simCommands,       networkCommands,
+    callCommands,     dialCommands, callStatusCommands, phoneBookCommands, messageCommands,
 };
 
 const CommandRow* rowOf(std::string_view name) {
@@ -49,6 +49,7 @@ Reply executeLine(ModemState& state, std::string_view body) {
     append(whole.afterwards, reply.afterwards);
     whole.result = reply.result;
     whole.code = reply.code;
+    whole.later = std::move(reply.later);
     if (whole.failed()) break;
   }
   return whole;

@@ -30,13 +30,17 @@ CommandRows profileCommands();
 CommandRows simCommands();
 CommandRows networkCommands();
 CommandRows callCommands();
+CommandRows dialCommands();
+CommandRows callStatusCommands();
+CommandRows phoneBookCommands();
 CommandRows messageCommands();
 
 // The handler for a command; null when there is none.
 CommandHandler handlerOf(const Command& command);
 
 // Does the commands of a line, with `body` being what stands behind "AT", up to the first that
-// fails. The reply holds what all of them tell, and the result of the last one done.
+// fails. The reply holds what all of them tell, and the result of the last one done. A command that
+// takes its time is always the last of its line.
 Reply executeLine(ModemState& state, std::string_view body);
 
 }  // namespace gsm::simulator

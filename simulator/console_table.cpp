@@ -8,7 +8,8 @@ namespace gsm::simulator {
 
 namespace {
 
-constexpr ConsoleRows (*kTables[])() = {networkConsole, simConsole, lineConsole, generalConsole};
+constexpr ConsoleRows (*kTables[])() = {networkConsole, simConsole, callConsole, lineConsole,
+                                        generalConsole};
 
 // Where the explanations start in the help.
 constexpr std::size_t kHelpColumn = 44;

@@ -26,6 +26,7 @@ using ConsoleRows = std::span<const ConsoleRow>;
 ConsoleRows lineConsole();
 ConsoleRows networkConsole();
 ConsoleRows simConsole();
+ConsoleRows callConsole();
 ConsoleRows generalConsole();
 
 // What a handler returns when its operands don't fit; it is replaced by an error that shows how the

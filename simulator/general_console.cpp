@@ -11,6 +11,16 @@ std::string speedText(const ModemState& state) {
 
 std::string onOff(bool on) { return on ? "on" : "off"; }
 
+std::string callsText(const Calls& calls) {
+  std::string text;
+  for (const Call& call : calls.all()) {
+    text.append(text.empty() ? "" : ", ").append(std::to_string(call.id)).append(" ");
+    text.append(nameOf(call.state)).append(" ");
+    text.append(call.number.empty() ? "hidden" : call.number);
+  }
+  return text.empty() ? "none" : text;
+}
+
 std::string showState(ModemState& state, std::string_view) {
   const SimCard& sim = state.sim;
   const Network& network = state.network;
@@ -21,7 +31,9 @@ std::string showState(ModemState& state, std::string_view) {
          "\nsim: " + std::string(nameOf(sim.status())) + ", " + std::to_string(sim.pinTries()) +
          " PIN and " + std::to_string(sim.pukTries()) + " PUK tries left\nnetwork: registration " +
          std::to_string(network.registration()) + ", signal " + std::to_string(network.signal) +
-         "," + std::to_string(network.bitErrorRate);
+         "," + std::to_string(network.bitErrorRate) +
+         "\nphone book: " + std::to_string(state.phoneBook.entries().size()) + " of " +
+         std::to_string(kPhoneBookLocations) + "\ncalls: " + callsText(state.calls);
 }
 
 std::string showHelp(ModemState&, std::string_view) { return consoleHelp(); }

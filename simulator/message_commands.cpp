@@ -10,8 +10,6 @@ namespace {
 
 constexpr std::array<std::string_view, 4> kCharacterSets = {"GSM", "PCCP437", "CUSTOM", "HEX"};
 
-std::string quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
-
 Reply queryCharacterSet(ModemState& state, const Command& command) {
   const auto index = static_cast<std::size_t>(state.settings.profile.characterSet);
   return ok(headed(command, quoted(kCharacterSets.at(index))));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "simulator/command_table.h"
 #include "simulator/console_table.h"
@@ -13,6 +14,22 @@ namespace {
 
 // The receive buffer; what comes in beyond it while a command is being done is lost.
 constexpr std::size_t kReceiveBuffer = 4096;
+
+// True when one of the whole command lines in `bytes` hangs up.
+bool asksToHangUp(std::string_view bytes) {
+  LineInput input;
+  for (const char byte : bytes) {
+    if (input.take(byte) != LineInput::Step::kLineEnded) continue;
+    const LineInput::Line line = input.takeLine();
+    if (!line.isCommand || line.overlong) continue;
+    const std::vector<Command> commands = parseCommands(line.body);
+    const auto hangsUp = [](const Command& command) {
+      return command.name == "H" && command.arguments.number(0).value_or(0) == 0;
+    };
+    if (std::any_of(commands.begin(), commands.end(), hangsUp)) return true;
+  }
+  return false;
+}
 
 }  // namespace
 
@@ -36,6 +53,7 @@ void Modem::hostWrites(std::string_view bytes, int speed) {
     waiting_ += bytes.substr(0, room);
     bytes.remove_prefix(room);
     work();
+    heedHangUp();
   }
 }
 
@@ -63,12 +81,30 @@ void Modem::work() {
 
 void Modem::answer(const LineInput::Line& line) {
   Reply reply = line.overlong ? error() : executeLine(state_, line.body);
+  const auto later = std::exchange(reply.later, nullptr);
+  if (!later) return finish(std::move(reply));
+  const std::string bytes = state_.silent ? "" : framed(reply, state_.settings.profile);
+  if (!bytes.empty()) state_.transmitter.send(Source::kReply, bytes);
+  later([this, earlier = std::move(reply.afterwards)](Reply rest) {
+    rest.afterwards.insert(rest.afterwards.begin(), earlier.begin(), earlier.end());
+    finish(std::move(rest));
+  });
+  heedHangUp();
+}
+
+void Modem::finish(Reply reply) {
   const std::string bytes = state_.silent ? "" : framed(reply, state_.settings.profile);
   state_.transmitter.send(Source::kReply, bytes, [this, actions = std::move(reply.afterwards)] {
     for (const auto& action : actions) action();
     busy_ = false;
     work();
   });
+}
+
+void Modem::heedHangUp() {
+  if (state_.calls.isDialing() && asksToHangUp(waiting_)) {
+    state_.calls.endDialing(Reply::Result::kNoCarrier);
+  }
 }
 
 std::string Modem::console(std::string_view line) { return runConsoleLine(state_, line); }

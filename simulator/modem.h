@@ -7,6 +7,7 @@
 
 #include "simulator/line_input.h"
 #include "simulator/modem_state.h"
+#include "simulator/reply.h"
 #include "simulator/timeline.h"
 
 namespace gsm::simulator {
@@ -21,7 +22,9 @@ class Modem {
         const ModemOptions& options = {});
 
   // Bytes from the host, sent at `speed` bits per second. At another speed than the modem's they
-  // are noise and do nothing. Nothing comes back from inside this call.
+  // are noise and do nothing. Nothing comes back from inside this call. What comes while a command
+  // is being done waits for its result, without an echo. Dialing takes long, so it alone is ended,
+  // with NO CARRIER, by an ATH among what waits; any other byte leaves the call alone.
   void hostWrites(std::string_view bytes, int speed);
 
   // The speed at which the modem listens and sends; kAutobaud when at any.
@@ -35,6 +38,8 @@ class Modem {
   bool hears(int speed) const;
   void work();
   void answer(const LineInput::Line& line);
+  void finish(Reply reply);
+  void heedHangUp();
 
   ModemState state_;
   GuardedTimeline timeline_;

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <vector>
 
 #include "simulator/cutter.h"
 #include "simulator/fault.h"
+#include "simulator/phone_book.h"
 #include "simulator/sim_card.h"
 
 namespace gsm::simulator {
@@ -27,6 +29,9 @@ struct ModemOptions {
   std::chrono::milliseconds latency{50};
 
   bool silent = false;  // hears nothing and says nothing
+
+  PhoneBookEntries phoneBook = factoryPhoneBook();
+  std::size_t nameRoom = kLongestNameRoom;  // of the phone book, in bytes
 };
 
 }  // namespace gsm::simulator

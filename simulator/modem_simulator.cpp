@@ -1,11 +1,14 @@
 #include <csignal>
 #include <exception>
+#include <functional>
 #include <iostream>
 #include <memory>
 #include <random>
 #include <span>
 #include <string>
+#include <string_view>
 
+#include "platform/pty/file_phone_book.h"
 #include "platform/pty/file_profile_store.h"
 #include "platform/pty/pty_server.h"
 #include "platform/pty/stop_signals.h"
@@ -26,15 +29,26 @@ std::unique_ptr<gsm::simulator::ProfileStore> storeFor(const SimulatorOptions& o
   return std::make_unique<gsm::pty::FileProfileStore>(*options.profile);
 }
 
+// Loads the phone book into the options, and returns what keeps it. Throws std::runtime_error when
+// its file can't be read.
+std::function<bool(std::string_view)> phoneBookFor(SimulatorOptions& options) {
+  if (!options.phoneBook) return {};
+  const gsm::pty::FilePhoneBook book(*options.phoneBook);
+  options.modem.phoneBook = book.load(options.modem.nameRoom);
+  return [book](std::string_view text) { return book.save(text); };
+}
+
 int serve(SimulatorOptions options) {
   if (!options.seeded) options.modem.seed = std::random_device{}();
   const auto store = storeFor(options);
+  const auto keepPhoneBook = phoneBookFor(options);
   const gsm::pty::StopSignals stop;
   gsm::pty::PtyServer server(*store, {.modem = options.modem,
                                       .link = options.link,
                                       .timeFactor = options.timeFactor,
                                       .consoleInput = 0,
-                                      .stopDescriptor = stop.descriptor()});
+                                      .stopDescriptor = stop.descriptor(),
+                                      .keepPhoneBook = keepPhoneBook});
   std::cout << "modem on " << server.device();
   if (options.link) std::cout << " (linked as " << *options.link << ")";
   std::cout << ", " << speedText(server.speed()) << ", seed " << options.modem.seed << std::endl;

@@ -21,6 +21,10 @@ ModemState::ModemState(Timeline& timeline, ProfileStore& store, Surroundings aro
     : surroundings(std::move(around)),
       settings(store),
       sim(options.sim),
+      phoneBook(options.phoneBook, options.nameRoom,
+                [this](std::string_view text) {
+                  return !surroundings.keepPhoneBook || surroundings.keepPhoneBook(text);
+                }),
       silent(options.silent),
       transmitter(
           timeline,
@@ -29,7 +33,8 @@ ModemState::ModemState(Timeline& timeline, ProfileStore& store, Surroundings aro
           },
           options.cutter, chainOf(options)),
       notices(settings, transmitter, silent),
-      network(timeline, settings, notices, options.sim == SimStatus::kReady) {
+      network(timeline, settings, notices, options.sim == SimStatus::kReady),
+      calls(timeline, settings, notices) {
   if (options.speed) settings.assumeSpeed(*options.speed);
   speed_ = settings.profile.speed;
   if (speed_ != kAutobaud) transmitter.setSpeed(speed_);

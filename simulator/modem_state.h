@@ -1,8 +1,10 @@
 #pragma once
 
+#include "simulator/calls.h"
 #include "simulator/modem_options.h"
 #include "simulator/network.h"
 #include "simulator/notices.h"
+#include "simulator/phone_book.h"
 #include "simulator/settings.h"
 #include "simulator/sim_card.h"
 #include "simulator/surroundings.h"
@@ -30,11 +32,13 @@ struct ModemState {
   Surroundings surroundings;
   Settings settings;
   SimCard sim;
+  PhoneBook phoneBook;
   bool silent;
   bool plugged = true;
   Transmitter transmitter;
   Notices notices;
   Network network;
+  Calls calls;
 
  private:
   int speed_;

@@ -84,7 +84,6 @@ Reply dumpCells(ModemState& state, const Command& command) {
   return reply;
 }
 
-Reply queryActivity(ModemState&, const Command& command) { return ok(headed(command, "0")); }
 Reply queryFunctionality(ModemState&, const Command& command) { return ok(headed(command, "1")); }
 
 Reply listFunctionalities(ModemState&, const Command& command) {
@@ -99,7 +98,6 @@ constexpr CommandRow kRows[] = {
      .test = listNumbers<&Profile::registrationNotices>},
     {.name = "+WIND", .query = queryIndications, .set = setIndications, .test = listIndications},
     {.name = "+CCED", .set = dumpCells},
-    {.name = "+CPAS", .execute = queryActivity, .test = isSupported},
     {.name = "+CFUN", .query = queryFunctionality, .test = listFunctionalities},
 };
 

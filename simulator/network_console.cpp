@@ -28,6 +28,7 @@ std::string setRegistration(ModemState& state, std::string_view operand) {
   const auto status = parseNumber<int>(operand);
   if (!status || !kRegistrations.holds(*status)) return wrongUse();
   state.network.setRegistration(*status);
+  if (!state.network.hasService()) state.calls.lose();
   return {};
 }
 

@@ -12,9 +12,13 @@ namespace gsm::simulator {
 // The indications of +WIND, as the bits of its mask.
 enum class Indication {
   kSimPresence = 1,
+  kRemoteRings = 2,
   kReadyForAll = 8,
+  kCallCreated = 16,
+  kCallReleased = 32,
   kServiceAvailable = 64,
   kNetworkLost = 128,
+  kAudioOn = 256,
   kPhoneBookLoaded = 512,
 };
 
@@ -29,6 +33,12 @@ class Notices {
   void line(std::string_view text) {
     if (silent_) return;
     transmitter_.send(Source::kUnsolicited, framedLine(text, settings_.profile));
+  }
+
+  // Sends a result code that no command waits for, unless ATQ keeps it back.
+  void result(const ResultCode& code) {
+    if (silent_ || settings_.profile.quiet != 0) return;
+    transmitter_.send(Source::kUnsolicited, framedCode(code, settings_.profile));
   }
 
   // Sends "+WIND: `rest`" when the mask asks for it.

@@ -20,6 +20,7 @@ struct Profile {
   int errorCodes = 0;
   int callTypes = 0;
   int callerId = 0;
+  int callWaiting = 0;
   int registrationNotices = 0;
   int speaker = 0;
   int speed = 115200;
@@ -75,6 +76,7 @@ inline constexpr ProfileField kProfileFields[] = {
     {"+CMEE", &Profile::errorCodes, {0, 1}},
     {"+CRC", &Profile::callTypes, {0, 1}},
     {"+CLIP", &Profile::callerId, {0, 1}},
+    {"+CCWA", &Profile::callWaiting, {0, 1}},
     {"+CREG", &Profile::registrationNotices, {0, 2}},
     {"+SPEAKER", &Profile::speaker, {0, 1}},
     {"+IPR", &Profile::speed, {0, 115200}},

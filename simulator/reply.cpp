@@ -6,28 +6,31 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 
-// OK and ERROR have a digit of their own for ATV0, which ends with a carriage return alone.
-std::string basicResult(std::string_view word, char digit, const Profile& profile) {
-  return profile.verbose != 0 ? framedLine(word, profile) : std::string{digit, '\r'};
-}
-
 std::string codedError(std::string_view head, int code, const Profile& profile) {
-  if (profile.errorCodes == 0) return basicResult("ERROR", '4', profile);
+  if (profile.errorCodes == 0) return framedCode(kErrorCode, profile);
   return framedLine(std::string(head) + std::to_string(code), profile);
 }
 
 std::string framedResult(const Reply& reply, const Profile& profile) {
   switch (reply.result) {
-    case Reply::Result::kOk: return basicResult("OK", '0', profile);
-    case Reply::Result::kError: return basicResult("ERROR", '4', profile);
+    case Reply::Result::kOk: return framedCode(kOkCode, profile);
+    case Reply::Result::kError: return framedCode(kErrorCode, profile);
     case Reply::Result::kEquipmentError: return codedError("+CME ERROR: ", reply.code, profile);
     case Reply::Result::kMessageError: return codedError("+CMS ERROR: ", reply.code, profile);
+    case Reply::Result::kNoCarrier: return framedCode(kNoCarrierCode, profile);
+    case Reply::Result::kBusy: return framedCode(kBusyCode, profile);
+    case Reply::Result::kNoAnswer: return framedCode(kNoAnswerCode, profile);
     case Reply::Result::kNone: break;
   }
   return {};
 }
 
 }  // namespace
+
+// The digit ends with a carriage return alone.
+std::string framedCode(const ResultCode& code, const Profile& profile) {
+  return profile.verbose != 0 ? framedLine(code.word, profile) : std::string{code.digit, '\r'};
+}
 
 std::string framedLine(std::string_view text, const Profile& profile) {
   std::string line(profile.verbose != 0 ? kLineEnd : "");

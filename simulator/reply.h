@@ -19,11 +19,46 @@ enum class EquipmentError {
   kPukWanted = 12,
   kSimFailure = 13,
   kWrongCode = 16,
+  kMemoryFull = 20,
+  kInvalidIndex = 21,
+  kNotFound = 22,
+  kMemoryFailure = 23,
+  kTextTooLong = 24,
+  kTextMalformed = 25,
+  kDialStringTooLong = 26,
+  kDialStringMalformed = 27,
 };
+
+// A result that has a digit of its own for ATV0, and that ATQ1 keeps back.
+struct ResultCode {
+  std::string_view word;
+  char digit;
+};
+
+inline constexpr ResultCode kOkCode = {"OK", '0'};
+inline constexpr ResultCode kRingCode = {"RING", '2'};
+inline constexpr ResultCode kNoCarrierCode = {"NO CARRIER", '3'};
+inline constexpr ResultCode kErrorCode = {"ERROR", '4'};
+inline constexpr ResultCode kBusyCode = {"BUSY", '7'};
+inline constexpr ResultCode kNoAnswerCode = {"NO ANSWER", '8'};
+
+struct Reply;
+
+// Takes the rest of a reply.
+using FinishCommand = std::function<void(Reply rest)>;
 
 // What a command answers.
 struct Reply {
-  enum class Result { kOk, kError, kEquipmentError, kMessageError, kNone };
+  enum class Result {
+    kOk,
+    kError,
+    kEquipmentError,
+    kMessageError,
+    kNoCarrier,
+    kBusy,
+    kNoAnswer,
+    kNone
+  };
 
   // The information responses. One with several lines holds its line ends.
   std::vector<std::string> information;
@@ -32,6 +67,11 @@ struct Reply {
 
   // Done once the last byte of the whole reply has left, in the order of the commands.
   std::vector<std::function<void()>> afterwards;
+
+  // For a command that takes its time: begins it, and sees to it that `finish` is called once. What
+  // this reply holds goes out before, without a result; the modem does nothing else for the host in
+  // the meantime.
+  std::function<void(FinishCommand finish)> later;
 
   bool failed() const { return result != Result::kOk && result != Result::kNone; }
 };
@@ -56,6 +96,12 @@ inline Reply error(EquipmentError code) {
 inline Reply messageError(int code) {
   return {.result = Reply::Result::kMessageError, .code = code};
 }
+
+// For a call that couldn't be made or taken.
+inline Reply noCarrier() { return {.result = Reply::Result::kNoCarrier}; }
+
+// A result code as it goes out, in the form that ATV asks for.
+std::string framedCode(const ResultCode& code, const Profile& profile);
 
 // One line as it goes out, with the line ends that ATV asks for.
 std::string framedLine(std::string_view text, const Profile& profile);

@@ -1,4 +1,5 @@
 #include "simulator/profile_number.h"
+#include "simulator/sim_trouble.h"
 
 // The SIM card and its codes.
 namespace gsm::simulator {
@@ -18,17 +19,11 @@ Reply queryPin(ModemState& state, const Command& command) {
   return error(EquipmentError::kSimFailure);
 }
 
-// Why the card doesn't take a code of this kind now.
+// Why the card doesn't take a code of this kind now. One that wants its PIN is no trouble here: it
+// was given a PUK.
 EquipmentError refusalOf(const SimCard& sim) {
-  switch (sim.status()) {
-    case SimStatus::kPukWanted: return EquipmentError::kPukWanted;
-    case SimStatus::kAbsent: return EquipmentError::kSimMissing;
-    case SimStatus::kBlocked:
-    case SimStatus::kFailed: return EquipmentError::kSimFailure;
-    case SimStatus::kReady:
-    case SimStatus::kPinWanted: break;
-  }
-  return EquipmentError::kNotAllowed;
+  if (sim.status() == SimStatus::kPinWanted) return EquipmentError::kNotAllowed;
+  return simTrouble(sim.status()).value_or(EquipmentError::kNotAllowed);
 }
 
 // "=PIN", or "=PUK,NEWPIN".

@@ -10,6 +10,7 @@ std::string takeOut(ModemState& state) {
   state.sim.remove();
   state.notices.indicate(Indication::kSimPresence, "0");
   state.notices.simFailure();
+  state.calls.lose();
   state.network.lose();
   return {};
 }
@@ -28,6 +29,7 @@ std::string force(ModemState& state, SimStatus status) {
   if (status == SimStatus::kReady) {
     state.network.search();
   } else {
+    state.calls.lose();
     state.network.lose();
   }
   return {};

@@ -31,6 +31,16 @@ bool setProfile(SimulatorOptions& options, std::string_view path) {
   return !path.empty();
 }
 
+bool setPhoneBook(SimulatorOptions& options, std::string_view path) {
+  options.phoneBook = path;
+  return !path.empty();
+}
+
+bool setNameRoom(SimulatorOptions& options, std::string_view text) {
+  options.modem.nameRoom = parseNumber<std::size_t>(text).value_or(0);
+  return options.modem.nameRoom >= kShortestNameRoom && options.modem.nameRoom <= kLongestNameRoom;
+}
+
 bool setSpeed(SimulatorOptions& options, std::string_view text) {
   options.modem.speed = parseNumber<int>(text);
   return options.modem.speed && kField<&Profile::speed>.accepts(*options.modem.speed);
@@ -83,6 +93,9 @@ constexpr OptionRow kOptions[] = {
     {"--speed", "N", "bits per second, 300 to 115200; 0 for any", setSpeed},
     {"--sim", "STATE", "ready, pin, puk, blocked, out or failed", setSim},
     {"--profile", "FILE", "keep the stored profile in FILE", setProfile},
+    {"--phonebook", "FILE", "keep the SIM's phone book in FILE: location, tab, number, tab, name",
+     setPhoneBook},
+    {"--name-room", "N", "longest name in the phone book, 10 to 14", setNameRoom},
     {"--seed", "N", "seed of all chance; makes a run repeatable", setSeed},
     {"--cut", "MODE", "pieces of a reply: whole, real or a number of bytes", setCut},
     {"--fault", "FAULT", "spoil the line, as 'garble 0.01'; may stand several times", addFault},

@@ -12,10 +12,11 @@ namespace gsm::simulator {
 // What the program's command line asks for.
 struct SimulatorOptions {
   ModemOptions modem;
-  std::optional<std::string> link;     // path of a symbolic link to the modem's device
-  std::optional<std::string> profile;  // file of the stored profile
-  bool seeded = false;                 // modem.seed was given
-  double timeFactor = 1;               // how many times faster than real the modem's delays run
+  std::optional<std::string> link;       // path of a symbolic link to the modem's device
+  std::optional<std::string> profile;    // file of the stored profile
+  std::optional<std::string> phoneBook;  // file of the SIM's phone book
+  bool seeded = false;                   // modem.seed was given
+  double timeFactor = 1;                 // how many times faster than real the modem's delays run
   bool help = false;
 };
 

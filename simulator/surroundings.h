@@ -20,6 +20,10 @@ struct Surroundings {
 
   // The console wants the program to end.
   std::function<void()> quit;
+
+  // The phone book has changed to `text`, which readPhoneBook reads. Returns whether it could be
+  // kept; when it couldn't, the change doesn't happen.
+  std::function<bool(std::string_view text)> keepPhoneBook = {};
 };
 
 }  // namespace gsm::simulator

@@ -26,6 +26,8 @@ constexpr bool isControl(char c) { return static_cast<unsigned char>(c) < 0x20 |
 constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 constexpr bool isLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
+inline std::string quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
 // Upper case of the unaccented letters alone, whatever the locale.
 constexpr char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 

@@ -37,7 +37,8 @@ PtyServer::PtyServer(simulator::ProfileStore& store, const PtyServerOptions& opt
              {.toHost = [this](std::string_view chunk) { deliver(chunk); },
               .speedChanged = {},
               .plugChanged = [this](bool plugged) { plugged ? plugIn() : plugOut(); },
-              .quit = [this] { ended_ = true; }},
+              .quit = [this] { ended_ = true; },
+              .keepPhoneBook = options.keepPhoneBook},
              options.modem) {
   plugIn();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,6 +20,9 @@ struct PtyServerOptions {
   double timeFactor = 1;
   int consoleInput = -1;    // descriptor of the console's lines; -1 for no console
   int stopDescriptor = -1;  // the server ends when this one becomes readable; -1 for none
+
+  // Keeps the phone book after a change, as Surroundings says; empty to keep it in memory alone.
+  std::function<bool(std::string_view text)> keepPhoneBook = {};
 };
 
 // A modem on a pseudo-terminal, in real time. It runs on the thread that calls it.

@@ -79,6 +79,9 @@ Statement::Statement(const Connection& connection, const std::string& sql)
   statement_.reset(statement);
   if (result != SQLITE_OK) throw failureOf(connection.handle());
   if (statement == nullptr) throw RuntimeFailure(3129, "Invalid SQL statement");
+  if (std::string_view(rest).find_first_not_of("; \t\r\n") != std::string_view::npos) {
+    throw RuntimeFailure(3142, "Characters found after end of SQL statement.");
+  }
 }
 
 void Statement::bind(int parameter, const std::string& text) {
@@ -95,6 +98,13 @@ bool Statement::step() {
     case SQLITE_ROW: return true;
     case SQLITE_DONE: return false;
     default: throw failureOf(connection_.handle());
+  }
+}
+
+void Statement::mustChangeARow() {
+  step();
+  if (sqlite3_changes(connection_.handle()) == 0) {
+    throw RuntimeFailure(3167, "Record is deleted.");
   }
 }
 

@@ -36,6 +36,8 @@ class Statement {
 
   /// Runs to the next row; false when there is none left.
   bool step();
+  /// Runs a statement that changes a row by its key. A failure when the row is gone.
+  void mustChangeARow();
   sqlite3_int64 number(int column) const;
   std::string text(int column) const;
 

@@ -15,20 +15,36 @@ const std::vector<PhoneBookTable>& phoneBookTables() {
   return tables;
 }
 
-void createPhoneBook(const std::filesystem::path& file) {
-  if (std::filesystem::exists(file)) {
-    throw RuntimeFailure(3204, "There is a file '" + file.string() + "' already.");
-  }
-  if (!std::ofstream(file)) {
-    throw RuntimeFailure(3051, "Couldn't make the file '" + file.string() + "'.");
-  }
+namespace {
+
+void createTables(const std::filesystem::path& file) {
   const Connection connection(file);  // an empty file is an empty database
+  Statement(connection, "BEGIN").step();
   for (const PhoneBookTable& table : phoneBookTables()) {
     std::string columns;
     for (const std::string& column : table.columns) {
       columns += (columns.empty() ? "" : ", ") + quotedName(column) + " TEXT";
     }
     Statement(connection, "CREATE TABLE " + quotedName(table.name) + " (" + columns + ")").step();
+  }
+  Statement(connection, "COMMIT").step();
+}
+
+}  // namespace
+
+void createPhoneBook(const std::filesystem::path& file) {
+  std::error_code error;
+  if (std::filesystem::exists(file, error)) {
+    throw RuntimeFailure(3204, "There is a file '" + file.string() + "' already.");
+  }
+  if (!std::ofstream(file)) {
+    throw RuntimeFailure(3051, "Couldn't make the file '" + file.string() + "'.");
+  }
+  try {
+    createTables(file);
+  } catch (const RuntimeFailure&) {
+    std::filesystem::remove(file, error);  // or it would be in the way of the next try
+    throw;
   }
 }
 

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <string_view>
 
+#include "platform/code_page.h"
 #include "platform/runtime_failure.h"
 #include "platform/sqlite/connection.h"
 #include "platform/sqlite/sqlite_record_set.h"
@@ -17,10 +18,13 @@ namespace fs = std::filesystem;
 
 class SqliteDatabase : public Database {
  public:
-  explicit SqliteDatabase(const fs::path& file) : connection_(std::make_shared<Connection>(file)) {}
+  explicit SqliteDatabase(const fs::path& file) : connection_(std::make_shared<Connection>(file)) {
+    // The library looks into a file only when it must: see here whether it is a database at all.
+    Statement(*connection_, "PRAGMA schema_version").step();
+  }
 
   void Execute(const std::string& statement) override {
-    Statement run(*connection_, statement);
+    Statement run(*connection_, toUtf8(statement));
     while (run.step()) {}
   }
 
@@ -36,7 +40,8 @@ class SqliteDatabase : public Database {
 fs::path spelled(const fs::path& file) {
   std::error_code error;
   if (fs::exists(file, error)) return file;
-  for (const auto& entry : fs::directory_iterator(file.parent_path(), error)) {
+  const fs::path folder = file.has_parent_path() ? file.parent_path() : ".";
+  for (const auto& entry : fs::directory_iterator(folder, error)) {
     if (strcasecmp(entry.path().filename().c_str(), file.filename().c_str()) == 0) {
       return entry.path();
     }

@@ -17,7 +17,7 @@ bool sameName(const std::string& a, const std::string& b) {
 
 }  // namespace
 
-SqliteRecordSet::SqliteRecordSet(std::shared_ptr<Connection> connection, std::string table)
+SqliteRecordSet::SqliteRecordSet(std::shared_ptr<Connection> connection, const std::string& table)
     : connection_(std::move(connection)),
       table_(quotedName(table)),
       columns_(connection_->columnsOf(table)) {
@@ -30,11 +30,13 @@ SqliteRecordSet::SqliteRecordSet(std::shared_ptr<Connection> connection, std::st
 
 void SqliteRecordSet::MoveFirst() {
   if (keys_.empty()) throw noCurrentRecord();
+  forgetChange();
   current_ = 0;
 }
 
 void SqliteRecordSet::MoveNext() {
   if (isEof()) throw noCurrentRecord();
+  forgetChange();
   ++current_;
 }
 
@@ -54,7 +56,7 @@ const std::string& SqliteRecordSet::ownName(const std::string& column) const {
 void SqliteRecordSet::FindFirst(const std::string& text) {
   const auto criterion = parseCriterion(text);
   if (!criterion) throw RuntimeFailure(3077, "Syntax error in expression: " + text);
-  std::string value = "ifnull(" + quotedName(ownName(criterion->column)) + ",'')";
+  std::string value = "ifnull(CAST(" + quotedName(ownName(criterion->column)) + " AS TEXT),'')";
   if (criterion->last) {
     const std::string count = std::to_string(*criterion->last);
     value = "CASE WHEN length(" + value + ")<=" + count + " THEN " + value + " ELSE substr(" +
@@ -63,6 +65,7 @@ void SqliteRecordSet::FindFirst(const std::string& text) {
   Statement query(*connection_, "SELECT rowid FROM " + table_ + " WHERE (" + value +
                                     ")=?1 COLLATE PHONEBOOK ORDER BY rowid");
   query.bind(1, toUtf8(criterion->text));
+  forgetChange();
   noMatch_ = true;
   while (noMatch_ && query.step()) {
     // A row that another set has added meanwhile is not of this set before its next opening.
@@ -111,6 +114,10 @@ void SqliteRecordSet::Update() {
     case Change::add: insertRow(); break;
     case Change::edit: updateRow(); break;
   }
+  forgetChange();
+}
+
+void SqliteRecordSet::forgetChange() {
   change_ = Change::none;
   values_.clear();
 }
@@ -128,7 +135,17 @@ void SqliteRecordSet::insertRow() {
   int parameter = 0;
   for (const auto& [name, value] : values_) insertion.bind(++parameter, value);
   insertion.step();
-  keys_.push_back(sqlite3_last_insert_rowid(connection_->handle()));
+  addKey(sqlite3_last_insert_rowid(connection_->handle()));
+}
+
+// The key is mostly above all others. But when rows were deleted behind the set's back, theirs are
+// given to new rows, and the set may still hold them.
+void SqliteRecordSet::addKey(sqlite3_int64 key) {
+  const auto place = std::lower_bound(keys_.begin(), keys_.end(), key);
+  if (place != keys_.end() && *place == key) return;
+  const auto index = static_cast<std::size_t>(place - keys_.begin());
+  if (index < keys_.size() && index <= current_) ++current_;
+  keys_.insert(place, key);
 }
 
 void SqliteRecordSet::updateRow() {
@@ -141,13 +158,13 @@ void SqliteRecordSet::updateRow() {
   int parameter = 0;
   for (const auto& [name, value] : values_) change.bind(++parameter, value);
   change.bind(++parameter, currentKey());
-  change.step();
+  change.mustChangeARow();
 }
 
 void SqliteRecordSet::Delete() {
   Statement deletion(*connection_, "DELETE FROM " + table_ + " WHERE rowid=?1");
   deletion.bind(1, currentKey());
-  deletion.step();
+  deletion.mustChangeARow();
   keys_.erase(keys_.begin() + static_cast<std::ptrdiff_t>(current_));
 }
 

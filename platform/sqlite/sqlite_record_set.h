@@ -14,7 +14,7 @@ namespace gsm {
 /// columns are read when they are asked for, so they are as the file holds them then.
 class SqliteRecordSet : public RecordSet {
  public:
-  SqliteRecordSet(std::shared_ptr<Connection> connection, std::string table);
+  SqliteRecordSet(std::shared_ptr<Connection> connection, const std::string& table);
 
   bool isBof() const override { return keys_.empty(); }
   bool isEof() const override { return current_ >= keys_.size(); }
@@ -35,14 +35,16 @@ class SqliteRecordSet : public RecordSet {
   sqlite3_int64 currentKey() const;
   /// The table's own name of the column. A failure when there is none.
   const std::string& ownName(const std::string& column) const;
+  void forgetChange();
   void insertRow();
+  void addKey(sqlite3_int64 key);
   void updateRow();
 
   std::shared_ptr<Connection> connection_;
   const std::string table_;
   std::vector<std::string> columns_;
-  std::vector<sqlite3_int64> keys_;
-  std::size_t current_ = 0;  // into keys_; its size is the end
+  std::vector<sqlite3_int64> keys_;  // ascending
+  std::size_t current_ = 0;          // into keys_; its size is the end
   bool noMatch_ = false;
   Change change_ = Change::none;
   std::map<std::string, std::string> values_;  // of the change, by the table's own names, in UTF-8

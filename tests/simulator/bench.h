@@ -53,6 +53,8 @@ class Bench {
   std::vector<int> speeds;    // that the modem announced
   std::vector<bool> plugged;  // likewise
   int quits = 0;
+  std::vector<std::string> phoneBooks;  // that were to be kept, as text
+  bool phoneBookFits = true;            // whether they can be
   Modem modem;
 
  private:
@@ -70,7 +72,12 @@ class Bench {
                 },
             .speedChanged = [this](int speed) { speeds.push_back(speed); },
             .plugChanged = [this](bool in) { plugged.push_back(in); },
-            .quit = [this] { ++quits; }};
+            .quit = [this] { ++quits; },
+            .keepPhoneBook =
+                [this](std::string_view text) {
+                  phoneBooks.emplace_back(text);
+                  return phoneBookFits;
+                }};
   }
 };
 

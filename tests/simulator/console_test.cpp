@@ -164,7 +164,9 @@ TEST(Console, StateShowsHowThingsStand) {
             "line: 9600 baud, plugged, silent off, echo on, cut real\n"
             "faults: none\n"
             "sim: pin, 2 PIN and 10 PUK tries left\n"
-            "network: registration 0, signal 17,0");
+            "network: registration 0, signal 17,0\n"
+            "phone book: 8 of 250\n"
+            "calls: none");
 }
 
 TEST(Console, QuitIsPassedOn) {
@@ -175,8 +177,9 @@ TEST(Console, QuitIsPassedOn) {
 
 TEST(Console, HelpHasOneLineForEveryCommand) {
   const std::string help = "\n" + consoleHelp();
-  for (const char* name : {"signal", "register", "sim", "silent", "unplug", "plug", "say", "line",
-                           "echo", "speed", "fault", "state", "help", "quit"}) {
+  for (const char* name : {"signal", "register", "sim",    "ring",   "wait", "giveup", "answer",
+                           "busy",   "hangup",   "silent", "unplug", "plug", "say",    "line",
+                           "echo",   "speed",    "fault",  "state",  "help", "quit"}) {
     EXPECT_NE(help.find("\n" + std::string(name) + " "), std::string::npos) << name;
   }
   Bench bench;

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <fstream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -169,6 +170,43 @@ TEST_F(ProgramTest, StoredProfileComesBackInTheNextRun) {
   std::ofstream(profile) << "+IPR=19200\n";
   Program program({"--link", link_, "--profile", profile});
   EXPECT_NE(program.line().find(", 19200 baud, "), std::string::npos);
+}
+
+TEST_F(ProgramTest, PhoneBookOfAFileIsServedAndChangesGoIntoIt) {
+  const std::string book = folder_.file("book");
+  std::ofstream(book) << "2\t+33639981201\tAnna\nnoise\n";
+  Program program({"--link", link_, "--speed", "9600", "--time-factor", "20", "--phonebook", book});
+  EXPECT_EQ(program.complaint(),
+            "phone book " + book + ", line 2: the location isn't a number from 1 to 250");
+  ASSERT_NE(program.line(), "");
+  SerialHost host(link_, B9600);
+  host.write("ATE0\r");
+  host.readUntil("OK\r\n", kPatience);
+  host.write("AT+CPBW=7,0123456,,\" Ben\"\r");
+  EXPECT_EQ(host.readUntil("OK\r\n", kPatience), "\r\nOK\r\n");
+  std::ostringstream kept;
+  kept << std::ifstream(book).rdbuf();
+  EXPECT_EQ(kept.str(), "2\t+33639981201\tAnna\n7\t0123456\t Ben\n");
+}
+
+TEST_F(ProgramTest, PhoneBookThatCantBeReadEndsIt) {
+  const std::string book = folder_.file("book");
+  std::filesystem::create_directory(book);
+  Program program({"--phonebook", book});
+  EXPECT_EQ(program.complaint(), "modem-simulator: phone book " + book + " can't be read");
+  EXPECT_EQ(program.exitStatus(), 1);
+}
+
+TEST_F(ProgramTest, HostCallsAndIsCalled) {
+  Program program({"--link", link_, "--speed", "9600", "--time-factor", "20"});
+  ASSERT_NE(program.line(), "");
+  SerialHost host(link_, B9600);
+  host.write("ATE0\rATD0146290800;\r");
+  EXPECT_EQ(host.readUntil("OK\r\n\r\nOK\r\n", kPatience), "ATE0\r\r\nOK\r\n\r\nOK\r\n");
+  program.type("hangup\nring 0123\n");
+  EXPECT_EQ(host.readUntil("RING\r\n", kPatience), "\r\nNO CARRIER\r\n\r\nRING\r\n");
+  program.type("giveup\n");
+  EXPECT_NE(host.readUntil("CARRIER\r\n", kPatience).find("\r\nNO CARRIER\r\n"), std::string::npos);
 }
 
 }  // namespace

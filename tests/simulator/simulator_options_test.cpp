@@ -16,7 +16,9 @@ std::string complaint(const Given& given) { return std::get<std::string>(parseOp
 TEST(SimulatorOptions, NothingGivenIsARegisteredModemWithoutALink) {
   const SimulatorOptions options = parsed({});
   EXPECT_EQ(options.modem.sim, SimStatus::kReady);
-  EXPECT_FALSE(options.link || options.profile || options.modem.speed);
+  EXPECT_FALSE(options.link || options.profile || options.phoneBook || options.modem.speed);
+  EXPECT_EQ(options.modem.phoneBook, factoryPhoneBook());
+  EXPECT_EQ(options.modem.nameRoom, 14u);
   EXPECT_FALSE(options.seeded || options.help || options.modem.silent);
   EXPECT_EQ(options.timeFactor, 1);
   EXPECT_EQ(options.modem.cutter.name(), "real");
@@ -27,6 +29,8 @@ TEST(SimulatorOptions, EveryOptionArrives) {
                                            "--speed",       "9600",
                                            "--sim",         "puk",
                                            "--profile",     "p",
+                                           "--phonebook",   "b",
+                                           "--name-room",   "10",
                                            "--seed",        "18446744073709551615",
                                            "--cut",         "8",
                                            "--fault",       "cut 3",
@@ -37,6 +41,8 @@ TEST(SimulatorOptions, EveryOptionArrives) {
   EXPECT_EQ(options.modem.speed, 9600);
   EXPECT_EQ(options.modem.sim, SimStatus::kPukWanted);
   EXPECT_EQ(options.profile, "p");
+  EXPECT_EQ(options.phoneBook, "b");
+  EXPECT_EQ(options.modem.nameRoom, 10u);
   EXPECT_EQ(options.modem.seed, 18446744073709551615u);
   EXPECT_TRUE(options.seeded);
   EXPECT_EQ(options.modem.cutter.name(), "8");
@@ -51,7 +57,9 @@ TEST(SimulatorOptions, BadValuesAreNamed) {
   const Given kBad[] = {{"--speed", "1234"},    {"--speed", ""},        {"--sim", "maybe"},
                         {"--seed", "-1"},       {"--cut", "0"},         {"--fault", "melt"},
                         {"--fault", "cut 0"},   {"--time-factor", "0"}, {"--time-factor", "nan"},
-                        {"--time-factor", "x"}, {"--link", ""},         {"--profile", ""}};
+                        {"--time-factor", "x"}, {"--link", ""},         {"--profile", ""},
+                        {"--phonebook", ""},    {"--name-room", "9"},   {"--name-room", "15"},
+                        {"--name-room", "-10"}, {"--name-room", "x"}};
   for (const Given& given : kBad) {
     const std::string text = complaint(given);
     EXPECT_NE(text.find(given[0]), std::string::npos) << text;
@@ -67,8 +75,8 @@ TEST(SimulatorOptions, MissingValuesAndUnknownOptionsAreNamed) {
 
 TEST(SimulatorOptions, HelpNamesEveryOption) {
   const std::string help = optionsHelp();
-  for (const char* name : {"--link", "--speed", "--sim", "--profile", "--seed", "--cut", "--fault",
-                           "--time-factor", "--silent", "--help"}) {
+  for (const char* name : {"--link", "--speed", "--sim", "--profile", "--phonebook", "--name-room",
+                           "--seed", "--cut", "--fault", "--time-factor", "--silent", "--help"}) {
     EXPECT_NE(help.find(std::string("  ") + name + " "), std::string::npos) << name;
   }
 }
