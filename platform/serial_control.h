@@ -72,10 +72,11 @@ class SerialControl : public Object, private SerialDevice::Listener {
 
   /// Assigning sends the text as it stands. Fails with `invalidUnlessOpen` when the port is closed,
   /// `deviceError` when the device is gone.
-  struct {
+  struct OutputProperty {
     SerialControl& control;
     void operator=(std::string_view bytes) { control.write(bytes); }
-  } Output{*this};
+  };
+  OutputProperty Output{*this};
 
   /// Takes all that has come in. Fails with `invalidUnlessOpen` when the port is closed.
   std::string Input();
