@@ -3,7 +3,11 @@
 namespace gsm {
 
 void Panel::start() {
-  platform.loop.post([this] { form1.Show(); });
+  platform.loop.post([this] {
+    form1.reference();  // which loads it
+    // Start-up shows it as soon as it can, and other windows over it: don't lift it once more.
+    if (!form1.Visible) form1.Show();
+  });
 }
 
 std::vector<Window*> Panel::windows() {

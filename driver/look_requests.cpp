@@ -35,7 +35,7 @@ MemberName memberName(const std::string& text) {
   int index = 0;
   const char* const end = text.data() + text.size();
   const auto [rest, error] = std::from_chars(text.data() + bracket + 1, end, index);
-  if (error != std::errc{} || std::string_view(rest, end) != ")") {
+  if (error != std::errc{} || std::string_view(rest, end) != ")" || index < 0) {
     throw BadRequest("'" + text + "' is no member of a control array");
   }
   return {text.substr(0, bracket), index};
@@ -54,6 +54,7 @@ Control& Session::controlNamed(const std::string& name, std::optional<int> index
   if (dot == std::string::npos) throw BadRequest("'" + name + "' is no control: Window.Control");
   const MemberName member = memberName(name.substr(dot + 1));
   if (member.index) index = member.index;
+  if (index && *index < 0) throw BadRequest("an index counts from 0");
   Control* control =
       windowNamed(name.substr(0, dot)).control(member.name, index.value_or(Control::kNoIndex));
   if (control == nullptr) throw BadRequest("there is no control '" + name + "'");

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "app/form1.h"
 #include "platform/runtime_failure.h"
 
@@ -6,10 +8,12 @@ namespace gsm {
 void Form1::Pause(float seconds) {
   Clock& clock = platform().clock;
   const float start = clock.secondsSinceMidnight();
-  // When to look at the clock again if nothing happens before. The clock's single precision can lag
-  // a little behind the time line, and then another look follows soon.
+  // When to look at the clock again if nothing happens before: at the end, or at midnight. The
+  // clock's single precision can lag a little behind the time line, and then another look follows
+  // soon.
   constexpr Duration kNextLook = std::chrono::milliseconds(1);
-  Instant wake = clock.now() + fromSeconds(static_cast<double>(seconds));
+  constexpr float kDay = 24 * 60 * 60;
+  Instant wake = clock.now() + fromSeconds(static_cast<double>(std::min(seconds, kDay - start)));
 
   while (clock.secondsSinceMidnight() - start < seconds) {
     if (wake <= clock.now()) wake = clock.now() + kNextLook;

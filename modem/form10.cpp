@@ -1,6 +1,7 @@
 #include "modem/form10.h"
 
 #include "app/panel.h"
+#include "platform/runtime_failure.h"
 
 namespace gsm {
 
@@ -17,13 +18,15 @@ void Form10::showPinForm() {
   Text2.Visible = false;
 }
 
-void Form10::Command1_Click() {
+void Form10::Command1_Click() try {
   const bool pin = Label1.Visible && Text1.Visible;
   if (pin && !Label2.Visible && !Text2.Visible) {
     sendPin();
   } else if (pin && Label2.Visible && Text2.Visible) {
     sendPuk();
   }
+} catch (const RuntimeFailure&) {
+  // Ends silently.
 }
 
 void Form10::sendPin() {

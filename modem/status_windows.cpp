@@ -1,4 +1,5 @@
 #include "app/panel.h"
+#include "platform/runtime_failure.h"
 
 namespace gsm {
 
@@ -10,11 +11,12 @@ Form20::Form20(Panel& panel) : Window(panel.platform, "Form20"), panel_(panel) {
   Timer1.Tick = [this] { Timer1_Tick(); };
 }
 
-// Without a trap: a midnight within the three seconds ends the program.
-void Form20::Timer1_Tick() {
+void Form20::Timer1_Tick() try {
   Show();
   panel_.form1.Pause(3);
   Hide();
+} catch (const RuntimeFailure&) {
+  // Ends silently: after a midnight within the three seconds the picture stays until the next tick.
 }
 
 }  // namespace gsm

@@ -43,7 +43,8 @@ std::optional<char32_t> takeCharacter(std::string_view& rest) {
     wellFormed = (byte(i) & 0xC0u) == 0x80;
     character = character << 6 | (byte(i) & 0x3Fu);
   }
-  wellFormed = wellFormed && character >= least;
+  const bool isSurrogate = character >= 0xD800 && character <= 0xDFFF;
+  wellFormed = wellFormed && character >= least && character <= 0x10FFFF && !isSurrogate;
   rest.remove_prefix(wellFormed ? length : 1);
   return wellFormed ? std::optional(character) : std::nullopt;
 }

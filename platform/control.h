@@ -25,6 +25,9 @@ class Control : public PropertyOwner {
 
   Window& window() const { return window_; }
 
+  /// The frame that holds the control, or null for the window itself.
+  Control* container() const { return container_; }
+
   void reference() const override;
 
   /// Whether the user could act on the control now: enabled and visible, with all that holds it,
@@ -45,7 +48,6 @@ class Control : public PropertyOwner {
           bool enabled);
 
   const Platform& platform() const;
-  Control* container() const { return container_; }
 
   /// Raises the event for the user, unless the control is out of reach. Whether it did.
   bool raiseIfReachable(const Event& event);

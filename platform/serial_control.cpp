@@ -48,6 +48,7 @@ void SerialControl::setOpen(bool open) {
     platform_.serialDevice.close();
     open_ = false;
     received_.clear();
+    held_.clear();
   }
 }
 
@@ -62,8 +63,16 @@ std::string SerialControl::Input() {
 }
 
 void SerialControl::raise(gsm::CommEvent event) {
-  platform_.handlers.run([this, event] {
-    CommEvent = event;
+  if (platform_.handlers.isFull()) {
+    held_.insert(event);
+  } else {
+    run(event);
+  }
+}
+
+void SerialControl::run(gsm::CommEvent cause) {
+  platform_.handlers.run([this, cause] {
+    CommEvent = cause;
     if (OnComm) OnComm();
   });
 }
@@ -76,21 +85,22 @@ void SerialControl::bytesArrived(std::string_view bytes) {
 
 void SerialControl::deliver() {
   const bool due = RThreshold > 0 && received_.size() >= static_cast<std::size_t>(RThreshold);
-  if (due && !platform_.handlers.isFull()) raise(gsm::CommEvent::receive);
+  if (due && !platform_.handlers.isFull()) run(gsm::CommEvent::receive);
 }
 
 void SerialControl::deliverLater() {
-  if (received_.empty() || deliveryPosted_) return;
+  if ((received_.empty() && held_.empty()) || deliveryPosted_) return;
   deliveryPosted_ = true;
   platform_.loop.post([this] {
     deliveryPosted_ = false;
+    for (const gsm::CommEvent event : std::exchange(held_, {})) raise(event);
     deliver();
   });
 }
 
 void SerialControl::bytesLeft(std::size_t waiting) {
   if (open_ && SThreshold > 0 && waiting < static_cast<std::size_t>(SThreshold)) {
-    raise(gsm::CommEvent::send);
+    run(gsm::CommEvent::send);  // one a write, so never many
   }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -72,10 +73,11 @@ class SerialControl : public Object, private SerialDevice::Listener {
 
   /// Assigning sends the text as it stands. Fails with `invalidUnlessOpen` when the port is closed,
   /// `deviceError` when the device is gone.
-  struct {
+  struct OutputProperty {
     SerialControl& control;
     void operator=(std::string_view bytes) { control.write(bytes); }
-  } Output{*this};
+  };
+  OutputProperty Output{*this};
 
   /// Takes all that has come in. Fails with `invalidUnlessOpen` when the port is closed.
   std::string Input();
@@ -86,7 +88,8 @@ class SerialControl : public Object, private SerialDevice::Listener {
   /// Raised for everything that happens on the line.
   std::function<void()> OnComm;
 
-  /// Raises `OnComm` with `event` as its cause.
+  /// Raises `OnComm` with `event` as its cause: something happened on the line. While the handler
+  /// stack is full the event is held back, each cause once.
   void raise(gsm::CommEvent event);
 
  private:
@@ -104,9 +107,11 @@ class SerialControl : public Object, private SerialDevice::Listener {
   void bytesLeft(std::size_t waiting) override;
   void lineEvent(gsm::CommEvent event) override { raise(event); }
 
+  void run(gsm::CommEvent cause);
   // Raises the receive event when there is cause, unless the handler stack is full: then the bytes
   // stay, and come as one larger chunk when the stack has shrunk.
   void deliver();
+  // Once the stack has shrunk, what was held back waits its turn like any other event.
   void deliverLater();
 
   const Platform& platform_;
@@ -117,6 +122,7 @@ class SerialControl : public Object, private SerialDevice::Listener {
   gsm::Handshaking handshaking_ = gsm::Handshaking::none;
   bool open_ = false;
   std::string received_;
+  std::set<gsm::CommEvent> held_;
   bool deliveryPosted_ = false;
 };
 

@@ -31,11 +31,12 @@ std::string TextBox::cut(std::string text) const {
 }
 
 bool TextBox::userType(std::string_view keys) {
+  if (!isReachable()) return false;
   for (const char key : keys) {
     if (!isReachable()) return false;  // a handler of the key before may have hidden the box
     typeKey(static_cast<unsigned char>(key));
   }
-  return isReachable();
+  return true;
 }
 
 void TextBox::typeKey(int key) {

@@ -1,5 +1,6 @@
 # The Debian packages that each job needs, for sourcing.
-build_packages=(g++ cmake ninja-build nlohmann-json3-dev libgtest-dev libbenchmark-dev)
-desktop_packages=(qt6-base-dev qt6-serialport-dev libqt6svg6-dev libqt6svg6 fonts-dejavu-core)
+build_packages=(g++ cmake ninja-build nlohmann-json3-dev libgtest-dev libbenchmark-dev
+                libsqlite3-dev mdbtools-dev pkg-config)
+desktop_packages=(qt6-base-dev qt6-serialport-dev qt6-svg-dev libqt6svg6 fonts-dejavu-core)
 screen_packages=(xvfb xauth)
 check_packages=(clang clang-format clang-tidy git)

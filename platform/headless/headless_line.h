@@ -40,6 +40,8 @@ class HeadlessLine : public SerialDevice {
   void write(std::string_view bytes) override;
 
   bool isOpen() const { return openPort_.has_value(); }
+  /// The speed of the host's side, in bits per second.
+  int baud() const { return settings_.baud; }
 
   /// Plugs `modem` in at port `number`; nothing unplugs it.
   void plug(std::optional<int> number) { modemPort_ = number; }

@@ -1,0 +1,356 @@
+#include "fuzz/player/panel_player.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace gsm {
+namespace {
+
+constexpr int kMostHandlers = 240;  // that this player asks for
+constexpr int kDeepest = 300;       // that the program may have with those of its own
+
+// What modems say: the words that the panel looks for, and pieces of replies around them.
+constexpr auto kPieces = std::to_array<std::string_view>({"OK",
+                                                          "\r\nOK\r\n",
+                                                          "ERROR",
+                                                          "\r\nERROR\r\n",
+                                                          "RING\r\n",
+                                                          "CMTI",
+                                                          "+CMTI: \"SM\",4\r\n",
+                                                          "+CCWA:",
+                                                          "\"",
+                                                          "BUSY",
+                                                          "NO CARRIER\r\n",
+                                                          "NO ANSWER",
+                                                          "+CLIP: \"123\",129\r\n",
+                                                          "+CDS: ",
+                                                          "ATI0",
+                                                          "ATI3",
+                                                          "AT+CPBS?",
+                                                          "AT+VGR=",
+                                                          "AT+VGT=",
+                                                          "+VGR: 128",
+                                                          "+VGT: 64",
+                                                          "+ECHO: 0,1,2,3",
+                                                          "AT+ECHO=",
+                                                          "+SIDET: 1,2\r\n",
+                                                          "AT+SIDET=",
+                                                          "+CSQ: 31,0\r\n",
+                                                          "+CSQ: ",
+                                                          "+CREG: 0,1\r\n",
+                                                          "+CREG: 1\r\n",
+                                                          "+CPIN: READY",
+                                                          "+CPIN: SIM PIN",
+                                                          "+CPIN: SIM PUK",
+                                                          "AT+CPIN=\"0000\"",
+                                                          "AT+CSCA?",
+                                                          "+CSCA: \"+49\",145",
+                                                          "+CIND: 0,0,0,0,1,0,0",
+                                                          "AT+CGSN\r\r\n",
+                                                          "+ICF: 3,4",
+                                                          "+IPR: 9600",
+                                                          "+CCED: ",
+                                                          "&C1 &D2",
+                                                          ",",
+                                                          "1",
+                                                          "-99999",
+                                                          "\r",
+                                                          "\r\n",
+                                                          "> ",
+                                                          "AT",
+                                                          "S0:000"});
+
+constexpr std::array kSpans = {
+    Duration(std::chrono::milliseconds(0)),  Duration(std::chrono::milliseconds(3)),
+    Duration(std::chrono::milliseconds(50)), Duration(std::chrono::milliseconds(500)),
+    Duration(std::chrono::seconds(1)),       Duration(std::chrono::seconds(2)),
+    Duration(std::chrono::seconds(5)),       Duration(std::chrono::seconds(60)),
+    Duration(std::chrono::minutes(10)),      Duration(std::chrono::hours(1)),
+};
+
+std::string saying(Decisions& decisions) {
+  if (decisions.next() % 4 == 0) return decisions.text(40);
+  std::string text;
+  for (std::size_t pieces = 1 + decisions.below(4); pieces > 0; --pieces) {
+    text += kPieces[decisions.below(kPieces.size())];
+  }
+  return text;
+}
+
+std::vector<HeadlessPorts::Port> anyPorts(Decisions& decisions) {
+  std::vector<HeadlessPorts::Port> ports;
+  for (int number = 1; number <= 5; ++number) {
+    switch (decisions.next() % 5) {
+      case 0: break;
+      case 1: ports.push_back({.number = number, .held = true}); break;
+      case 2: ports.push_back({.number = number, .fails = "It fails"}); break;
+      default: ports.push_back({.number = number});
+    }
+  }
+  return ports;
+}
+
+}  // namespace
+
+PanelPlayer::PanelPlayer(std::filesystem::path folder, Decisions& decisions)
+    : folder_(std::move(folder)) {
+  startAnew(decisions);
+}
+
+void PanelPlayer::startAnew(Decisions& decisions) {
+  const bool saved = decisions.next() % 4 != 0;
+  const std::string comFile = saved ? "9600,N,8,1 3\r\n" : decisions.text(30);
+  std::ofstream(folder_ / "COM.txt", std::ios::binary) << comFile;
+
+  if (world_) earlier_ += world_->machine.time.now();
+  modem_.reset();
+  world_.reset();  // its handlers unwind before another's begin
+  world_ = std::make_unique<HeadlessPanel>(folder_, LocalTime{2026, 2, 27, 22, 0, 0});
+  world_->machine.ports.set({{.number = 3}, {.number = 5}});
+  world_->machine.line.plug(3);
+  world_->modem.setOtherwise({.replies = {{{ModemScript::kDefaultDelay, "\r\nOK\r\n"}}}});
+  if (decisions.next() % 2 == 0) {
+    modem_ = std::make_unique<SimulatedModem>(world_->time(), world_->machine.line,
+                                              simulator::ModemOptions{.seed = decisions.next()});
+  }
+  userAskedForTheEnd_ = false;
+  boxWasHeld_ = false;
+  ++starts_;
+  world_->start();
+  run(Duration::zero());
+}
+
+void PanelPlayer::step(Decisions& decisions) {
+  if (world_->machine.time.hasEnded()) startAnew(decisions);
+  using Step = void (PanelPlayer::*)(Decisions&);
+  // Every step stands as often as it is likely.
+  static constexpr auto kSteps = std::to_array<Step>(
+      {&PanelPlayer::modemSays, &PanelPlayer::modemSays, &PanelPlayer::modemSays,
+       &PanelPlayer::modemFloods, &PanelPlayer::modemLearns, &PanelPlayer::lineChanges,
+       &PanelPlayer::machineChanges, &PanelPlayer::userActs, &PanelPlayer::userActs,
+       &PanelPlayer::userActs, &PanelPlayer::userActs, &PanelPlayer::userHandlesWindow,
+       &PanelPlayer::userHandlesBox, &PanelPlayer::timePasses, &PanelPlayer::timePasses,
+       &PanelPlayer::timePasses});
+  (this->*kSteps[decisions.next() % kSteps.size()])(decisions);
+}
+
+void PanelPlayer::modemSays(Decisions& decisions) {
+  happens([this, bytes = saying(decisions)] { world_->machine.line.arrive(bytes); });
+}
+
+// Many chunks at once, which the program must bound by itself.
+void PanelPlayer::modemFloods(Decisions& decisions) {
+  const std::string bytes = saying(decisions);
+  for (int chunk = 0; chunk < 50; ++chunk) {
+    world_->time().after(std::chrono::milliseconds(chunk),
+                         [this, bytes] { world_->machine.line.arrive(bytes); });
+  }
+  run(std::chrono::milliseconds(100));
+}
+
+// What a person does to the simulated modem at its console.
+void PanelPlayer::modemIsHandled(Decisions& decisions) {
+  static constexpr auto kLines = std::to_array<std::string_view>({"silent on",
+                                                                  "silent off",
+                                                                  "echo on",
+                                                                  "echo off",
+                                                                  "speed 115200",
+                                                                  "speed 9600",
+                                                                  "speed 0",
+                                                                  "fault add cut 3",
+                                                                  "fault add delay 1",
+                                                                  "fault add garble 10",
+                                                                  "fault add drop 10",
+                                                                  "fault clear",
+                                                                  "signal 31 0",
+                                                                  "signal 99",
+                                                                  "register 5",
+                                                                  "register 0",
+                                                                  "sim ready",
+                                                                  "sim pin",
+                                                                  "sim puk",
+                                                                  "sim out",
+                                                                  "sim in",
+                                                                  "sim failed",
+                                                                  "line +CREG: 1",
+                                                                  "line RING",
+                                                                  "unplug",
+                                                                  "plug",
+                                                                  "state"});
+  const std::string line(kLines[decisions.below(kLines.size())]);
+  if (modem_) happens([this, line] { modem_->console(line); });
+}
+
+void PanelPlayer::modemLearns(Decisions& decisions) {
+  if (modem_) return modemIsHandled(decisions);
+  ModemScript& modem = world_->modem;
+  const ModemScript::Rule rule{.fit = ModemScript::Rule::Fit::beginning,
+                               .write = decisions.next() % 2 == 0 ? "AT+C" : "AT",
+                               .replies = {{{kSpans[decisions.below(6)], saying(decisions)}}},
+                               .echo = decisions.next() % 4 != 0};
+  switch (decisions.next() % 4) {
+    case 0: modem.forget(); break;
+    case 1: modem.setOtherwise(rule); break;
+    case 2: modem.setSpeed(decisions.next() % 2 == 0 ? 9600 : 115200); break;
+    default: modem.add(rule);
+  }
+}
+
+void PanelPlayer::lineChanges(Decisions& decisions) {
+  static constexpr auto kEvents = std::to_array<int>(
+      {1, 3, 4, 5, 6, 7, 1001, 1002, 1003, 1004, 1006, 1007, 1008, 1009, 1010, 1011, 0, -1, 99});
+  const auto event = static_cast<CommEvent>(kEvents[decisions.below(kEvents.size())]);
+  if (mayNest()) happens([this, event] { world_->panel.form1.MSComm1.raise(event); });
+}
+
+void PanelPlayer::machineChanges(Decisions& decisions) {
+  if (decisions.next() % 2 == 0) {
+    const auto port = static_cast<int>(decisions.next() % 6);
+    world_->machine.line.plug(port == 0 ? std::nullopt : std::optional(port));
+  } else {
+    world_->machine.ports.set(anyPorts(decisions));
+  }
+}
+
+Control* PanelPlayer::anyControl(Decisions& decisions) {
+  const auto windows = world_->panel.windows();
+  const auto& controls = windows[decisions.below(windows.size())]->controls();
+  return controls.empty() ? nullptr : controls[decisions.below(controls.size())];
+}
+
+// What a user does to a control of that kind; nothing for one that takes nothing.
+std::function<void()> PanelPlayer::deed(Control& control, Decisions& decisions) {
+  if (auto* label = dynamic_cast<Label*>(&control)) return [label] { label->userClick(); };
+  if (auto* picture = dynamic_cast<Picture*>(&control)) return [picture] { picture->userClick(); };
+  if (auto* option = dynamic_cast<OptionButton*>(&control))
+    return [option] { option->userClick(); };
+  if (auto* button = dynamic_cast<CommandButton*>(&control)) {
+    return [this, button] {
+      const bool exits = button == &world_->panel.form1.Command8 && button->isReachable();
+      userAskedForTheEnd_ = userAskedForTheEnd_ || exits;
+      button->userClick();
+    };
+  }
+  const int number = static_cast<int>(decisions.next()) - 8;
+  if (auto* slider = dynamic_cast<Slider*>(&control)) {
+    return [slider, number] { slider->userMove(number); };
+  }
+  if (auto* tabs = dynamic_cast<TabStrip*>(&control)) {
+    return [tabs, number] { tabs->userTab(number % 8); };
+  }
+  const std::string keys = decisions.text(12);
+  if (auto* box = dynamic_cast<TextBox*>(&control)) {
+    return [box, keys, number] { number < 0 ? box->userErase() : box->userType(keys); };
+  }
+  if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
+    if (number % 2 == 0) return [combo, keys] { combo->userType(keys); };
+  }
+  if (auto* list = dynamic_cast<ListControl*>(&control)) {
+    return [list, number] { list->userSelect(number % 20); };
+  }
+  return {};
+}
+
+void PanelPlayer::userActs(Decisions& decisions) {
+  Control* const control = anyControl(decisions);
+  if (control == nullptr || !mayNest()) return;
+  if (auto action = deed(*control, decisions)) happens(std::move(action));
+}
+
+void PanelPlayer::userHandlesWindow(Decisions& decisions) {
+  const auto windows = world_->panel.windows();
+  Window* const window = windows[decisions.below(windows.size())];
+  const int what = decisions.next() % 4;
+  if (!mayNest()) return;
+  happens([this, window, what] {
+    if (what < 3) {
+      window->userState(what);
+      return;
+    }
+    const bool ends = window == &world_->panel.form1 && window->Visible.peek();
+    userAskedForTheEnd_ = userAskedForTheEnd_ || ends;
+    window->userClose();
+  });
+}
+
+void PanelPlayer::userHandlesBox(Decisions& decisions) {
+  HeadlessBoxes& boxes = world_->machine.boxes;
+  switch (decisions.next() % 4) {
+    case 0: boxes.setAnswer(HeadlessBoxes::Answer::hold); break;
+    case 1: boxes.setAnswer(HeadlessBoxes::Answer::automatic); break;
+    default: happens([&boxes] { boxes.answerTop(); });
+  }
+}
+
+void PanelPlayer::timePasses(Decisions& decisions) { run(kSpans[decisions.below(kSpans.size())]); }
+
+bool PanelPlayer::mayNest() const { return world_->handlers().depth() < kMostHandlers; }
+
+void PanelPlayer::happens(std::function<void()> event) {
+  world_->time().after(Duration::zero(), std::move(event));
+  run(Duration::zero());
+}
+
+void PanelPlayer::run(Duration span) {
+  world_->time().run(span);
+  look();
+}
+
+void PanelPlayer::rest() {
+  if (world_->machine.time.hasEnded()) return;
+  HeadlessBoxes& boxes = world_->machine.boxes;
+  world_->modem.forget();
+  world_->machine.line.setModem(nullptr);
+  boxes.setAnswer(HeadlessBoxes::Answer::automatic);
+  while (boxes.isUp()) boxes.answerTop();
+  // A handler may wait for the user to close the window that it has opened.
+  for (Window* window : world_->panel.windows()) {
+    if (window != &world_->panel.form1) happens([window] { window->userClose(); });
+  }
+  world_->time().settle(std::chrono::hours(2));
+  look();
+  if (world_->machine.time.hasEnded() || !problem_.empty()) return;
+  if (world_->handlers().depth() != 0) problem_ = "handlers stay on the stack for ever";
+
+  const auto clock = [this] { return world_->panel.form1.Label4.Caption.peek(); };
+  const std::string before = clock();
+  run(std::chrono::seconds(2));
+  if (!world_->machine.time.hasEnded() && clock() == before) problem_ = "the clock has stopped";
+  if (modem_) {
+    world_->machine.line.setModem(modem_.get());
+  } else {
+    world_->machine.line.setModem(&world_->modem);
+  }
+}
+
+// What must hold at any moment between two steps.
+void PanelPlayer::look() {
+  if (!problem_.empty()) return;
+  const int depth = world_->handlers().depth();
+  if (depth > kDeepest) problem_ = std::to_string(depth) + " handlers on the stack";
+  if (!world_->machine.time.hasEnded()) {
+    boxWasHeld_ = boxWasHeld_ || world_->machine.boxes.isUp();
+    world_->machine.boxes.takeShown();
+    world_->machine.line.takeWrites();
+    return;
+  }
+  if (depth != 0) problem_ = "the program has ended with handlers on the stack";
+  if (!hasReasonToEnd()) problem_ = "the program has ended for no reason that anyone was told";
+}
+
+// The user wanted it, or a box says why (one that is held says so long before its handler goes on),
+// or the modem has switched itself off.
+bool PanelPlayer::hasReasonToEnd() {
+  if (userAskedForTheEnd_ || boxWasHeld_) return true;
+  if (!world_->machine.boxes.takeShown().empty()) return true;
+  const auto writes = world_->machine.line.takeWrites();
+  return std::any_of(writes.begin(), writes.end(), [](const HeadlessLine::Write& write) {
+    return write.text.starts_with("AT+CPOF");
+  });
+}
+
+}  // namespace gsm

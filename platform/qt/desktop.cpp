@@ -1,0 +1,61 @@
+#include "platform/qt/desktop.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QIcon>
+#include <QStyleFactory>
+#include <clocale>
+
+#include "ui/forms.h"
+
+namespace gsm {
+namespace {
+
+void dressApplication() {
+  ui::initResources();
+  // Windows come and go; the program ends when it says so.
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QApplication::setWindowIcon(QIcon(":/icons/gsm-application.svg"));
+  if (QFile style(":/style.qss"); style.open(QIODevice::ReadOnly)) {
+    qApp->setStyleSheet(QString::fromUtf8(style.readAll()));
+  }
+}
+
+}  // namespace
+
+Desktop::Desktop(const Options& options)
+    : clock_(options.speed),
+      loop_(clock_),
+      files_(options.programFolder),
+      portNames_(options.programFolder),
+      ports_(portNames_, locks_),
+      serialDevice_(loop_, portNames_, locks_),
+      settings_(options.programFolder / "settings.ini"),
+      program_([this, atEnd = options.atEnd] {
+        if (atEnd) atEnd();
+        serialDevice_.close();
+        files_.closeAll();
+      }),
+      handlers_(boxes_, program_),
+      platform_{.clock = clock_,
+                .loop = loop_,
+                .handlers = handlers_,
+                .boxes = boxes_,
+                .program = program_,
+                .files = files_,
+                .ports = ports_,
+                .serialDevice = serialDevice_,
+                .settings = settings_} {
+  // Qt takes the user's ways of writing numbers for the whole program; the modem has none but C's.
+  std::setlocale(LC_NUMERIC, "C");
+  dressApplication();
+}
+
+void Desktop::run() {
+  QApplication::exec();
+  // The session may ask the application to quit.
+  program_.end();
+}
+
+}  // namespace gsm

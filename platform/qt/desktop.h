@@ -1,0 +1,55 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+
+#include "platform/files.h"
+#include "platform/handler_stack.h"
+#include "platform/platform.h"
+#include "platform/qt/port_names.h"
+#include "platform/qt/posix_port_probe.h"
+#include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_event_loop.h"
+#include "platform/qt/qt_message_boxes.h"
+#include "platform/qt/qt_program.h"
+#include "platform/qt/qt_serial_device.h"
+#include "platform/qt/qt_settings_store.h"
+#include "platform/qt/uucp_lock.h"
+
+namespace gsm {
+
+/// The machine with a screen: everything that the windows need of it.
+class Desktop {
+ public:
+  struct Options {
+    std::filesystem::path programFolder;  // of the program's own files
+    double speed = 1;                     // how much faster than real the clock runs
+    std::function<void()> atEnd;          // done first when the program ends
+  };
+
+  /// Needs Qt's application object, and gives it the program's look.
+  explicit Desktop(const Options& options);
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+  Platform& platform() { return platform_; }
+
+  /// Lets events run until the program ends.
+  [[noreturn]] void run();
+
+ private:
+  QtClock clock_;
+  QtEventLoop loop_;
+  QtMessageBoxes boxes_;
+  Files files_;
+  PortNames portNames_;
+  UucpLocks locks_;
+  PosixPortProbe ports_;
+  QtSerialDevice serialDevice_;
+  QtSettingsStore settings_;
+  QtProgram program_;
+  HandlerStack handlers_;
+  Platform platform_;
+};
+
+}  // namespace gsm

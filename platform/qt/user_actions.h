@@ -1,0 +1,32 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+
+#include "platform/event_loop.h"
+
+namespace gsm {
+
+/// Queues what the user does on a window. Handlers never run from inside a widget's own event: they
+/// may wait, and the widget would wait with them.
+class UserActions {
+ public:
+  /// `showAgain` makes all views of the window show their state anew. `loop` must outlive this.
+  UserActions(EventLoop& loop, std::function<void()> showAgain)
+      : loop_(loop), showAgain_(std::move(showAgain)) {}
+
+  /// Queues `action`, which tells whether the panel let it happen. A widget shows what its user did
+  /// at once; when the panel doesn't let it happen (the control went out of reach meanwhile), the
+  /// window shows once more how things really are.
+  void post(std::function<bool()> action) const {
+    loop_.post([this, action = std::move(action)] {
+      if (!action()) showAgain_();
+    });
+  }
+
+ private:
+  EventLoop& loop_;
+  const std::function<void()> showAgain_;
+};
+
+}  // namespace gsm

@@ -1,0 +1,68 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "tests/support/open_port_test.h"
+#include "tests/support/property_watch.h"
+
+namespace gsm {
+namespace {
+
+// The small window that comes up now and then with advice about the signal.
+class ImageWindow : public OpenPortTest {
+ protected:
+  void SetUp() override {
+    OpenPortTest::SetUp();
+    watch_ = std::make_unique<PropertyWatch>(panel().form20, [this](PropertyId property) {
+      if (property != PropertyId::Visible) return;
+      (panel().form20.Visible.peek() ? shown_ : hidden_).push_back(std::round(now() * 100) / 100);
+    });
+  }
+  void TearDown() override { watch_.reset(); }
+
+  void enable() {
+    inPanel([this] { panel().form20.Timer1.Enabled = true; });
+    run(0);
+  }
+
+  using Times = std::vector<double>;
+  Times shown_;
+  Times hidden_;
+
+ private:
+  std::unique_ptr<PropertyWatch> watch_;
+};
+
+TEST_F(ImageWindow, StaysAwayUntilItsTimerIsEnabled) {
+  inPanel([this] { panel().form20.Image1.Visible = true; });  // the first reference loads it
+  run(200);
+  EXPECT_FALSE(panel().form20.Timer1.Enabled.peek());
+  EXPECT_EQ(panel().form20.Timer1.Interval.peek(), 50000);
+  EXPECT_EQ(shown_, Times{});
+}
+
+TEST_F(ImageWindow, ComesUpForThreeSecondsEveryFiftySeconds) {
+  enable();
+  run(160);
+  EXPECT_EQ(shown_, (Times{50, 100, 150}));
+  EXPECT_EQ(hidden_, (Times{53, 103, 153}));
+}
+
+TEST_F(ImageWindow, StaysUpUntilWhatBeganMeanwhileHasEnded) {
+  enable();
+  receive("a", 52.5);
+  run(90);
+  EXPECT_EQ(shown_, Times{50});
+  EXPECT_EQ(hidden_, Times{54.5});
+}
+
+TEST_F(ImageWindow, DropsTheTickThatComesWhileItIsStillUp) {
+  enable();
+  for (int i = 0; i < 40; ++i) receive("a", 51 + i * 1.5);  // the last one at 109.5
+  run(200);
+  EXPECT_EQ(shown_, (Times{50, 150, 200}));
+  EXPECT_EQ(hidden_, (Times{111.5, 153}));
+}
+
+}  // namespace
+}  // namespace gsm

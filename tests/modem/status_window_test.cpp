@@ -1,0 +1,54 @@
+#include <gtest/gtest.h>
+
+#include "tests/support/routing_test.h"
+
+namespace gsm {
+namespace {
+
+class StatusWindow : public RoutingTest {};
+
+TEST_F(StatusWindow, ComesUpWithItsDesign) {
+  Form7& window = panel().form7;
+  inPanel([&] { window.Show(); });
+  run(0);
+  EXPECT_EQ(window.Caption.peek(), "GSM-N/W");
+  EXPECT_EQ(window.Label1.Caption.peek(), "Signal  And Network");
+  EXPECT_EQ(window.Label2.Caption.peek(), "L");
+  EXPECT_EQ(window.Label3.Caption.peek(), "H");
+  EXPECT_EQ(bars(), ".....");
+  EXPECT_EQ(signal() + registration(), "");
+}
+
+TEST_F(StatusWindow, HoldsNothingThatTheUserCouldPress) {
+  Form7& window = panel().form7;
+  inPanel([&] { window.Show(); });
+  run(0);
+  for (const Control* control : window.controls()) {
+    EXPECT_EQ(dynamic_cast<const CommandButton*>(control), nullptr) << control->name();
+    EXPECT_EQ(dynamic_cast<const TextBox*>(control), nullptr) << control->name();
+  }
+}
+
+TEST_F(StatusWindow, KeepsItsStateWhileHiddenAndLosesItWhenClosed) {
+  Form7& window = panel().form7;
+  inPanel([&] {
+    window.Show();
+    window.Label4.Caption = "15,99";
+    window.Image1.Visible = true;
+    window.Hide();
+    window.Show();
+  });
+  run(0);
+  EXPECT_EQ(signal(), "15,99");
+  EXPECT_EQ(bars(), "#....");
+  inPanel([&] {
+    window.userClose();
+    window.Show();
+  });
+  run(0);
+  EXPECT_EQ(signal(), "");
+  EXPECT_EQ(bars(), ".....");
+}
+
+}  // namespace
+}  // namespace gsm

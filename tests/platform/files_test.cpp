@@ -1,0 +1,187 @@
+#include "platform/files.h"
+
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "tests/platform/platform_fixture.h"
+
+namespace gsm {
+namespace {
+
+class FilesTest : public PlatformTest {
+ protected:
+  Files& files() { return machine().files; }
+
+  /// The lines of a file that holds `bytes`.
+  Notes linesOf(const std::string& bytes) {
+    folder().write("lines.txt", bytes);
+    files().openForInput(1, "lines.txt");
+    Notes lines;
+    while (!files().atEnd(1)) lines.push_back(files().readLine(1));
+    files().closeAll();
+    return lines;
+  }
+};
+
+TEST_F(FilesTest, LinesEndInCarriageReturnLineFeedOrBoth) {
+  EXPECT_EQ(linesOf("a\r\nb\nc\rd"), Notes({"a", "b", "c", "d"}));
+  EXPECT_EQ(linesOf("a\r\n"), Notes({"a"}));
+  EXPECT_EQ(linesOf("a"), Notes({"a"}));
+}
+
+TEST_F(FilesTest, EmptyLinesAreLines) {
+  EXPECT_EQ(linesOf("\r\n"), Notes({""}));
+  EXPECT_EQ(linesOf("\n\r"), Notes({"", ""}));
+  EXPECT_EQ(linesOf("a\r\n\r\nb\r\n"), Notes({"a", "", "b"}));
+  EXPECT_EQ(linesOf("\r\r\n"), Notes({"", ""}));
+}
+
+TEST_F(FilesTest, AnEmptyFileHasNoLine) { EXPECT_EQ(linesOf(""), Notes()); }
+
+TEST_F(FilesTest, EveryOtherByteIsPartOfItsLine) {
+  std::string bytes;
+  for (int byte = 0; byte < 256; ++byte) {
+    if (byte != '\r' && byte != '\n') bytes += static_cast<char>(byte);
+  }
+  EXPECT_EQ(linesOf(bytes + "\r\n" + bytes), Notes({bytes, bytes}));
+}
+
+TEST_F(FilesTest, ALineMayBeLong) {
+  const std::string line(1'000'000, 'x');
+  EXPECT_EQ(linesOf(line + "\n"), Notes({line}));
+}
+
+TEST_F(FilesTest, FreeNumbersAreTakenFromOneUpward) {
+  folder().write("a.txt", "");
+  EXPECT_EQ(files().freeFile(), 1);
+  files().openForInput(1, "a.txt");
+  EXPECT_EQ(files().freeFile(), 2);
+  files().openForInput(3, "a.txt");
+  EXPECT_EQ(files().freeFile(), 2);
+  files().openForInput(2, "a.txt");
+  EXPECT_EQ(files().freeFile(), 4);
+  files().closeAll();
+  EXPECT_EQ(files().freeFile(), 1);
+}
+
+TEST_F(FilesTest, ANumberInUseIsRefusedForReadingAndWriting) {
+  folder().write("a.txt", "kept");
+  files().openForInput(1, "a.txt");
+  EXPECT_EQ(failureOf([this] { files().openForInput(1, "a.txt"); }), 55);
+  EXPECT_EQ(failureOf([this] { files().openForOutput(1, "a.txt"); }), 55);
+  EXPECT_EQ(failureOf([this] { files().openForInput(1, "missing.txt"); }), 55);
+  EXPECT_EQ(folder().read("a.txt"), "kept");
+  EXPECT_EQ(files().readLine(1), "kept");
+}
+
+TEST_F(FilesTest, AMissingFileIsNotFound) {
+  EXPECT_EQ(failureOf([this] { files().openForInput(1, "missing.txt"); }), 53);
+  EXPECT_EQ(failureOf([this] { files().openForInput(1, "missing/a.txt"); }), 53);
+  EXPECT_EQ(failureOf([this] { files().openForOutput(1, "missing/a.txt"); }), 53);
+  EXPECT_EQ(files().freeFile(), 1);
+}
+
+TEST_F(FilesTest, AFolderIsNoFile) {
+  std::filesystem::create_directory(folder().path() / "folder");
+  EXPECT_EQ(failureOf([this] { files().openForInput(1, "folder"); }), 75);
+  EXPECT_EQ(failureOf([this] { files().openForOutput(1, "folder"); }), 75);
+  EXPECT_EQ(files().freeFile(), 1);
+}
+
+TEST_F(FilesTest, WhatTheUserMayNotOpenIsDenied) {
+  if (geteuid() == 0) GTEST_SKIP() << "root may open everything";
+  folder().write("locked.txt", "x");
+  std::filesystem::permissions(folder().path() / "locked.txt", std::filesystem::perms::none);
+  EXPECT_EQ(failureOf([this] { files().openForInput(1, "locked.txt"); }), 70);
+  EXPECT_EQ(failureOf([this] { files().openForOutput(1, "locked.txt"); }), 70);
+}
+
+TEST_F(FilesTest, ReadingPastTheEndFails) {
+  folder().write("a.txt", "only\r\n");
+  files().openForInput(1, "a.txt");
+  EXPECT_FALSE(files().atEnd(1));
+  EXPECT_EQ(files().readLine(1), "only");
+  EXPECT_TRUE(files().atEnd(1));
+  EXPECT_EQ(failureOf([this] { files().readLine(1); }), 62);
+}
+
+TEST_F(FilesTest, ANumberThatIsNotOpenHasNothingToReadOrWrite) {
+  EXPECT_EQ(failureOf([this] { files().atEnd(1); }), 52);
+  EXPECT_EQ(failureOf([this] { files().readLine(1); }), 52);
+  EXPECT_EQ(failureOf([this] { files().printLine(1, "x"); }), 52);
+  folder().write("a.txt", "x");
+  files().openForInput(1, "a.txt");
+  files().closeAll();
+  EXPECT_EQ(failureOf([this] { files().atEnd(1); }), 52);
+  EXPECT_EQ(failureOf([this] { files().readLine(1); }), 52);
+}
+
+TEST_F(FilesTest, AFileIsOpenEitherForReadingOrForWriting) {
+  folder().write("a.txt", "x");
+  files().openForInput(1, "a.txt");
+  files().openForOutput(2, "b.txt");
+  EXPECT_EQ(failureOf([this] { files().printLine(1, "y"); }), 52);
+  EXPECT_EQ(failureOf([this] { files().readLine(2); }), 52);
+  EXPECT_EQ(failureOf([this] { files().atEnd(2); }), 52);
+}
+
+TEST_F(FilesTest, LinesAreWrittenWithCarriageReturnAndLineFeed) {
+  files().openForOutput(1, "out.txt");
+  files().printLine(1, "9600,N,8,1 3");
+  files().printLine(1, "");
+  files().closeAll();
+  EXPECT_EQ(folder().read("out.txt"), "9600,N,8,1 3\r\n\r\n");
+}
+
+TEST_F(FilesTest, OpeningForWritingEmptiesTheFile) {
+  folder().write("out.txt", "a much longer text than before\r\n");
+  files().openForOutput(1, "out.txt");
+  EXPECT_EQ(folder().read("out.txt"), "");
+  files().printLine(1, "x");
+  files().closeAll();
+  EXPECT_EQ(folder().read("out.txt"), "x\r\n");
+}
+
+TEST_F(FilesTest, AFullDiskFailsTheLineThatDoesNotFit) {
+  if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "needs a device that is always full";
+  files().openForOutput(1, "/dev/full");
+  EXPECT_EQ(failureOf([this] { files().printLine(1, "x"); }), 61);
+}
+
+TEST_F(FilesTest, ClosingAllButSomeKeepsThoseOpen) {
+  folder().write("a.txt", "a\r\nb\r\nc\r\n");
+  files().openForInput(1, "a.txt");
+  files().openForInput(2, "a.txt");
+  files().openForInput(4, "a.txt");
+  files().openForOutput(3, "out.txt");
+  EXPECT_EQ(files().readLine(2), "a");
+  files().closeAllBut({2, 4, 9});
+  EXPECT_EQ(files().freeFile(), 1);
+  EXPECT_EQ(files().readLine(2), "b");
+  EXPECT_EQ(files().readLine(4), "a");
+  EXPECT_EQ(failureOf([this] { files().readLine(1); }), 52);
+  EXPECT_EQ(failureOf([this] { files().printLine(3, "x"); }), 52);
+  files().closeAllBut({});
+  EXPECT_EQ(failureOf([this] { files().readLine(2); }), 52);
+}
+
+TEST_F(FilesTest, NamesAreRelativeToTheProgramsFolder) {
+  EXPECT_EQ(files().path("COM.txt"), folder().path() / "COM.txt");
+  files().changeToProgramFolder();
+  EXPECT_EQ(files().path("COM.txt"), folder().path() / "COM.txt");
+}
+
+TEST_F(FilesTest, TheEndOfTheProgramClosesFiles) {
+  now([this] {
+    files().openForOutput(1, "out.txt");
+    files().printLine(1, "kept");
+    platform().program.end();
+  });
+  EXPECT_TRUE(ended());
+  EXPECT_EQ(files().freeFile(), 1);
+  EXPECT_EQ(folder().read("out.txt"), "kept\r\n");
+}
+
+}  // namespace
+}  // namespace gsm

@@ -1,0 +1,139 @@
+#include "platform/handler_stack.h"
+
+#include "tests/platform/platform_fixture.h"
+
+namespace gsm {
+namespace {
+
+class HandlerStackTest : public PlatformTest {
+ protected:
+  HandlerStack& handlers() { return machine().handlers(); }
+
+  /// Runs `action` on top of so many handlers that `depth` are on the stack with its own.
+  void atDepth(int depth, const std::function<void()>& action) {
+    handlers().run([&] {
+      if (handlers().depth() < depth) {
+        atDepth(depth, action);
+      } else {
+        action();
+      }
+    });
+  }
+};
+
+TEST_F(HandlerStackTest, CountsTheHandlersThatHaveBegunAndNotEnded) {
+  EXPECT_EQ(depth(), 0);
+  handlers().run([this] {
+    EXPECT_EQ(depth(), 1);
+    handlers().run([this] { EXPECT_EQ(depth(), 2); });
+    EXPECT_EQ(depth(), 1);
+  });
+  EXPECT_EQ(depth(), 0);
+}
+
+TEST_F(HandlerStackTest, HandlersThatWaitStandOnOneAnother) {
+  inProgram([this] {
+    wait(3);
+    note("first");
+  });
+  inProgram(
+      [this] {
+        wait(1);
+        note("second");
+      },
+      1);
+  run(1.5);
+  EXPECT_EQ(depth(), 2);
+  run(1);
+  EXPECT_EQ(depth(), 1);
+  settle();
+  EXPECT_EQ(depth(), 0);
+  EXPECT_EQ(takeNotes(), Notes({"second", "first"}));
+}
+
+TEST_F(HandlerStackTest, TheOlderHandlerGoesOnOnlyAfterTheYoungerHasEnded) {
+  inProgram([this] {
+    wait(1);
+    note("older at " + std::to_string(static_cast<int>(at())));
+  });
+  inProgram([this] { wait(5); });
+  settle();
+  EXPECT_EQ(takeNotes(), Notes({"older at 5"}));
+}
+
+TEST_F(HandlerStackTest, AnUntrappedFailureIsShownAndEndsTheProgram) {
+  now([this] {
+    note("begun");
+    throw RuntimeFailure(13, "Type mismatch");
+  });
+  EXPECT_TRUE(ended());
+  EXPECT_EQ(depth(), 0);
+  const auto boxes = machine().boxes.takeShown();
+  ASSERT_EQ(boxes.size(), 1u);
+  EXPECT_EQ(boxes[0].text, "Type mismatch");
+  EXPECT_EQ(boxes[0].title, "GSM-APPLICATION");
+  EXPECT_EQ(boxes[0].icon, BoxIcon::none);
+}
+
+TEST_F(HandlerStackTest, AnUntrappedFailureEndsTheHandlersUnderneathToo) {
+  inProgram([this] {
+    wait(2);
+    note("went on");
+  });
+  inProgram([] { throw failure::overflow(); }, 1);
+  run(5);
+  EXPECT_TRUE(ended());
+  EXPECT_EQ(at(), 1);
+  EXPECT_EQ(takeNotes(), Notes());
+}
+
+TEST_F(HandlerStackTest, TheBoxOfAFailureWaitsForTheUserBeforeTheEnd) {
+  machine().boxes.setAnswer(HeadlessBoxes::Answer::hold);
+  now([] { throw failure::overflow(); });
+  run(5);
+  EXPECT_FALSE(ended());
+  EXPECT_EQ(depth(), 1);
+  time().after(fromSeconds(0), [this] { machine().boxes.answerTop(); });
+  run(0);
+  EXPECT_TRUE(ended());
+}
+
+TEST_F(HandlerStackTest, NoTrapCatchesTheEndOfTheProgram) {
+  now([this] {
+    try {
+      platform().program.end();
+    } catch (const std::exception&) {
+      note("caught");
+    }
+    note("went on");
+  });
+  EXPECT_TRUE(ended());
+  EXPECT_EQ(takeNotes(), Notes());
+}
+
+TEST_F(HandlerStackTest, IsFullAtTwoHundred) {
+  atDepth(199, [this] { EXPECT_FALSE(handlers().isFull()); });
+  atDepth(200, [this] {
+    EXPECT_TRUE(handlers().isFull());
+    EXPECT_EQ(handlers().depth(), 200);
+  });
+  EXPECT_FALSE(handlers().isFull());
+}
+
+TEST_F(HandlerStackTest, AFullStackStillTakesHandlers) {
+  atDepth(203, [this] { note(std::to_string(depth())); });
+  EXPECT_EQ(takeNotes(), Notes({"203"}));
+}
+
+TEST_F(HandlerStackTest, ReliefComesOnceWhenTheStackShrinksFromFull) {
+  handlers().onRelief([this] { note("relief at " + std::to_string(depth())); });
+  atDepth(199, [] {});
+  EXPECT_EQ(takeNotes(), Notes());
+  atDepth(203, [] {});
+  EXPECT_EQ(takeNotes(), Notes({"relief at 199"}));
+  atDepth(200, [] {});
+  EXPECT_EQ(takeNotes(), Notes({"relief at 199"}));
+}
+
+}  // namespace
+}  // namespace gsm

@@ -1,0 +1,61 @@
+#include "platform/qt/qt_clock.h"
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+namespace gsm {
+namespace {
+
+using namespace std::chrono_literals;
+
+float secondsOf(const LocalTime& time) {
+  return static_cast<float>((time.hour * 60 + time.minute) * 60 + time.second);
+}
+
+TEST(QtClock, BeginsAtZeroAndGoesForward) {
+  const QtClock clock;
+  const Instant first = clock.now();
+  EXPECT_GE(first, Duration::zero());
+  EXPECT_LT(first, 1s);
+  std::this_thread::sleep_for(2ms);
+  EXPECT_GE(clock.now(), first + 2ms);
+}
+
+TEST(QtClock, TellsTheMachinesLocalTime) {
+  const QtClock clock;
+  const std::time_t before = std::time(nullptr);
+  const LocalTime told = clock.localTime();
+  const std::time_t after = std::time(nullptr);
+  std::tm fields{};
+  ::localtime_r(before == after ? &before : &after, &fields);
+  EXPECT_EQ(told.year, fields.tm_year + 1900);
+  EXPECT_EQ(told.month, fields.tm_mon + 1);
+  EXPECT_EQ(told.hour, fields.tm_hour);
+}
+
+TEST(QtClock, CountsTheSecondsOfTheDay) {
+  const QtClock clock;
+  const float before = secondsOf(clock.localTime());
+  const float seconds = clock.secondsSinceMidnight();
+  EXPECT_GE(seconds, before);
+  EXPECT_LT(seconds, before + 2);
+}
+
+TEST(QtClock, RunsFasterWhenTold) {
+  const QtClock fast(100);
+  const Instant line = fast.now();
+  const float day = fast.secondsSinceMidnight();
+  std::this_thread::sleep_for(50ms);
+  const double onLine = toSeconds(fast.now() - line);
+  EXPECT_GE(onLine, 5);
+  EXPECT_NEAR(static_cast<double>(fast.secondsSinceMidnight() - day), onLine, 2);
+}
+
+TEST(QtClock, TellsHowLongADurationReallyLasts) {
+  EXPECT_EQ(QtClock(20).realTime(1s), 50ms);
+  EXPECT_EQ(QtClock(1).realTime(1s), 1s);
+}
+
+}  // namespace
+}  // namespace gsm
