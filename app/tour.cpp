@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QKeyEvent>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <cstdio>
@@ -72,6 +73,20 @@ Deed type(const Control& control, const char* keys) {
   };
 }
 
+// Picks the item at `index`, counted from 0, by its place on the screen.
+Deed pick(const Control& list, int index) {
+  return [&list, index](const Binder& screen) {
+    auto& widget = dynamic_cast<QListWidget&>(onView(screen, list));
+    const QPoint at = widget.visualItemRect(widget.item(index)).center();
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+      const bool isPress = type == QEvent::MouseButtonPress;
+      QMouseEvent event(type, at, widget.viewport()->mapToGlobal(at), Qt::LeftButton,
+                        isPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+      QApplication::sendEvent(widget.viewport(), &event);
+    }
+  };
+}
+
 Deed close(const Window& window) {
   return [&window](const Binder& screen) { screen.widget(window)->close(); };
 }
@@ -84,6 +99,8 @@ bool isUnlocked(const Form1& form1) {
 std::vector<Stop> panelRoute(Panel& panel) {
   Form1& form1 = panel.form1;
   Form2& form2 = panel.form2;
+  Form3& calls = panel.form3;
+  Form4& entry = panel.form4;
   Form7& form7 = panel.form7;
   frmSettings& settings = panel.settings;
   return {
@@ -110,6 +127,26 @@ std::vector<Stop> panelRoute(Panel& panel) {
          return !form2.Label3.Caption.peek().empty() && !form2.Label6.Caption.peek().empty();
        }},
       {"details left", close(form2), "the panel is back", [&] { return form1.Visible.peek(); }},
+      {"phone book", click(form1.Command2), "the call window lists the SIM's phone book",
+       [&] {
+         return calls.Visible.peek() && calls.List1.List.peek().size() >= 8 &&
+                form1.Text1.Text.peek().empty();
+       }},
+      {"number picked", pick(calls.List1, 1), "its number stands in the dial box",
+       [&] { return !calls.Text1.Text.peek().empty(); }},
+      {"call placed", click(calls.Command1), "the other side answers",
+       [&] { return calls.Label3.Caption.peek().starts_with("Connected SuccessFully-"); }},
+      {"call ended", click(calls.Command4), "the dial box is empty again",
+       [&] { return calls.Label3.Caption.peek() == "DisConnected "; }},
+      {"new entry", click(calls.Command2), "its window is up in the call window's place",
+       [&] { return entry.Visible.peek() && !calls.Visible.peek(); }},
+      {"number typed", type(entry.Text3, "0146290800"), "the box holds it",
+       [&] { return entry.Text3.Text.peek() == "0146290800"; }},
+      {"name typed", type(entry.Text4, "Fred"), "the box holds it",
+       [&] { return entry.Text4.Text.peek() == "Fred"; }},
+      {"entry added", click(entry.Command1), "the list has it",
+       [&] { return calls.Label3.Caption.peek() == "New Entry  0146290800"; }},
+      {"calls left", close(calls), "the call window is gone", [&] { return !calls.isLoaded(); }},
       {"port settings", click(form1.Command7), "the port settings list the ports",
        [&] { return settings.isLoaded() && settings.cmdAction[0].Enabled.peek(); }},
       {"port settings left", close(settings), "the port stays closed",

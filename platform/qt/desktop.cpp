@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QStyleFactory>
 #include <clocale>
+#include <iostream>
 
 #include "ui/forms.h"
 
@@ -32,6 +33,7 @@ Desktop::Desktop(const Options& options)
       ports_(portNames_, locks_),
       serialDevice_(loop_, portNames_, locks_),
       settings_(options.programFolder / "settings.ini"),
+      database_(sqlite_, [](const std::string& text) { std::cerr << text << std::endl; }),
       program_([this, atEnd = options.atEnd] {
         if (atEnd) atEnd();
         serialDevice_.close();
@@ -46,7 +48,8 @@ Desktop::Desktop(const Options& options)
                 .files = files_,
                 .ports = ports_,
                 .serialDevice = serialDevice_,
-                .settings = settings_} {
+                .settings = settings_,
+                .database = database_} {
   // Qt takes the user's ways of writing numbers for the whole program; the modem has none but C's.
   std::setlocale(LC_NUMERIC, "C");
   dressApplication();

@@ -15,6 +15,7 @@
 #include "platform/qt/qt_serial_device.h"
 #include "platform/qt/qt_settings_store.h"
 #include "platform/qt/uucp_lock.h"
+#include "platform/sqlite/sqlite_engine.h"
 
 namespace gsm {
 
@@ -47,6 +48,8 @@ class Desktop {
   PosixPortProbe ports_;
   QtSerialDevice serialDevice_;
   QtSettingsStore settings_;
+  SqliteEngine sqlite_;
+  TellingEngine database_;
   QtProgram program_;
   HandlerStack handlers_;
   Platform platform_;

@@ -95,8 +95,9 @@ std::string LineView::forPanel(const QString& text) const { return fromQt(text);
 
 void LineView::setShownText(const QString& text) {
   const int position = widget_.cursorPosition();
-  widget_.setText(text);
-  widget_.setCursorPosition(position);
+  widget_.setText(
+      text);  // which leaves the cursor at the end, where keys go in a box not typed into
+  if (widget_.isEnabled()) widget_.setCursorPosition(position);
 }
 
 void LineView::insert(const QString& text) {

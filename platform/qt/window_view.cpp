@@ -16,7 +16,8 @@ namespace gsm {
 namespace {
 
 // Windows that come up by themselves while the user types somewhere else.
-constexpr std::string_view kQuietWindows[] = {"Form7", "Form11", "Form20"};
+// Form5 among them: a key meant for another window must not answer a call.
+constexpr std::string_view kQuietWindows[] = {"Form5", "Form7", "Form11", "Form20"};
 
 bool isQuiet(const Window& window) {
   return std::find(std::begin(kQuietWindows), std::end(kQuietWindows), window.name()) !=
