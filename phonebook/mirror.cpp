@@ -6,9 +6,10 @@ namespace gsm {
 void Form1::SavePhoneBook() try {
   Form3& calls = panel_.form3;
   Label5.Caption = "Saving Phone Book...Please Wait";
-  const auto book = platform().database.OpenDatabase(platform().files.path("phonebook.mdb"));
+  auto book = platform().database.OpenDatabase(platform().files.path("phonebook.mdb"));
   book->Execute("delete from data");
   book->Execute("delete from details");
+  book.reset();
 
   // +CPBS: "SM",8,10
   const std::string behindUsed = Text1.slice(Text1.position("SM") + 4, 4);

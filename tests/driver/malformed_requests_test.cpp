@@ -100,7 +100,10 @@ TEST_F(MalformedRequests, AMissingField) {
                  R"({"op":"reply","write":"AT\r"})",
                  R"({"op":"reply","text":"x"})",
                  R"({"op":"otherwise"})",
-                 R"({"op":"reply","chunks":[[0.1,"x"]]})"});
+                 R"({"op":"reply","chunks":[[0.1,"x"]]})",
+                 R"({"op":"rows"})",
+                 R"({"op":"store","rows":[]})",
+                 R"({"op":"store","table":"DATA"})"});
 }
 
 TEST_F(MalformedRequests, AFieldOfTheWrongKind) {
@@ -146,6 +149,10 @@ TEST_F(MalformedRequests, AFieldOfTheWrongKind) {
       R"({"op":"boxes","answer":""})",
       R"({"op":"get","property":1})",
       R"({"op":"get","property":["Form1.Caption"]})",
+      R"({"op":"rows","table":1})",
+      R"({"op":"rows","table":"DATA","folder":1})",
+      R"({"op":"store","table":"DATA","rows":{}})",
+      R"({"op":"store","table":"DATA","rows":["1"]})",
   });
 }
 

@@ -1,0 +1,166 @@
+#include <gtest/gtest.h>
+
+#include "tests/phonebook/phone_book_test.h"
+
+namespace gsm {
+namespace {
+
+constexpr const char* kRing = "\r\nRING\r\n\r\n+CLIP: \"0146290800\",129\r\n";
+const std::string kCall = information("+CIND: 5,4,1,0,1,0,0");
+const std::string kNoCall = information("+CIND: 5,4,1,0,0,0,0");
+
+// The question about the call while it rings.
+class Poll : public PhoneBookTest {
+ protected:
+  void SetUp() override {
+    PhoneBookTest::SetUp();
+    layEntries({{"1", "112", "HELP"}});
+  }
+
+  /// A call has just been shown; the next tick is two seconds away.
+  void ringNow() {
+    route(kRing);
+    ASSERT_TRUE(promptUp());
+    ASSERT_TRUE(polls());
+    sent();
+  }
+};
+
+TEST_F(Poll, AsksTwoSecondsBehindTheRingOnTopOfTheTranscript) {
+  ringNow();
+  leaveInTranscript("kept");
+  run(1.8);
+  EXPECT_EQ(sent(), Texts{});
+  run(0.2);
+  EXPECT_EQ(sent(), Texts{"AT+CIND?\r"});
+  EXPECT_EQ(transcript(), "kept");
+}
+
+TEST_F(Poll, TakesThePromptDownAndEndsWhenTheCallHasGone) {
+  reply("AT+CIND?", kNoCall);
+  ringNow();
+  run(60);
+  EXPECT_EQ(sent(), Texts{"AT+CIND?\r"});
+  EXPECT_FALSE(promptUp());
+  EXPECT_FALSE(polls());
+  EXPECT_EQ(transcript(), "AT+CIND?\r" + kNoCall);
+}
+
+TEST_F(Poll, GoesOnWhileTheCallIsUp) {
+  reply("AT+CIND?", kCall);
+  ringNow();
+  run(9);
+  EXPECT_EQ(sent(), (Texts{"AT+CIND?\r", "AT+CIND?\r"}));
+  EXPECT_TRUE(promptUp());
+  EXPECT_TRUE(polls());
+}
+
+TEST_F(Poll, ReadsTheFirstReplyInTheTranscriptForEver) {
+  world().modem.add({.write = "AT+CIND?\r",
+                     .replies = {{{ModemScript::kDefaultDelay, kCall}},
+                                 {{ModemScript::kDefaultDelay, kNoCall}}}});
+  ringNow();
+  run(30);
+  EXPECT_TRUE(promptUp());
+  EXPECT_TRUE(polls());
+  clearTranscript();
+  run(10);
+  EXPECT_FALSE(promptUp());
+  EXPECT_FALSE(polls());
+}
+
+TEST_F(Poll, SkipsTheTickThatComesDueWhileItWaits) {
+  reply("AT+CIND?", kCall);
+  ringNow();
+  const double start = now();
+  run(13);
+  const auto writes = sentWithTimes();
+  ASSERT_EQ(writes.size(), 3U);
+  for (std::size_t i = 0; i < 3; ++i) {
+    EXPECT_NEAR(toSeconds(writes[i].at) - start, 1.9 + 4 * static_cast<double>(i), 0.06);
+  }
+}
+
+TEST_F(Poll, OfASilentModemGoesOn) {
+  ringNow();
+  run(9);
+  EXPECT_EQ(sent().size(), 2U);
+  EXPECT_TRUE(promptUp());
+  EXPECT_TRUE(polls());
+}
+
+TEST_F(Poll, EndsAtAnErrorThatWasLeftOverAndLeavesThePromptUp) {
+  ringNow();
+  leaveInTranscript("ERROR");
+  run(20);
+  EXPECT_EQ(sent(), Texts{"AT+CIND?\r"});
+  EXPECT_FALSE(polls());
+  EXPECT_TRUE(promptUp());
+}
+
+TEST_F(Poll, TakesThePromptDownBesideAnError) {
+  reply("AT+CIND?", kNoCall);
+  ringNow();
+  leaveInTranscript("ERROR");
+  run(20);
+  EXPECT_FALSE(polls());
+  EXPECT_FALSE(promptUp());
+}
+
+struct BadReply {
+  std::string name;
+  std::string before;
+  std::string reply;
+};
+
+class PollOf : public Poll, public ::testing::WithParamInterface<BadReply> {};
+
+TEST_P(PollOf, GoesOnWithThePromptUp) {
+  reply("AT+CIND?", GetParam().reply);
+  ringNow();
+  leaveInTranscript(GetParam().before);
+  run(9);
+  EXPECT_GE(sent().size(), 2U);
+  EXPECT_TRUE(polls());
+  EXPECT_TRUE(promptUp());
+  EXPECT_EQ(boxes(), Texts{});
+  EXPECT_FALSE(ended());
+}
+
+std::string badReplyName(const ::testing::TestParamInfo<BadReply>& row) { return row.param.name; }
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, PollOf,
+    ::testing::Values(BadReply{"SixFields", "", information("+CIND: 5,4,1,0,0,0")},
+                      BadReply{"OneField", "", information("+CIND: 5")},
+                      BadReply{"NoOkYet", "", "\r\n+CIND: 5,4,1,0,0,0,0\r\n"},
+                      BadReply{"AnOlderOk", "OK", kNoCall},
+                      BadReply{"ACallFieldThatIsNoNumber", "", information("+CIND: 5,4,1,0,x,0,0")},
+                      BadReply{"AnotherLine", "", information("+CSCS: 5,4,1,0,0,0,0")}),
+    badReplyName);
+
+TEST_F(Poll, OfAClosedPortTriesAgain) {
+  reply("AT+CIND?", kNoCall);
+  ringNow();
+  inPanel([this] { form1().MSComm1.PortOpen = false; });
+  run(9);
+  EXPECT_EQ(sent(), Texts{});
+  EXPECT_TRUE(polls());
+  EXPECT_TRUE(promptUp());
+  inPanel([this] { form1().MSComm1.PortOpen = true; });
+  run(5);
+  EXPECT_EQ(sent(), Texts{"AT+CIND?\r"});
+  EXPECT_FALSE(promptUp());
+}
+
+TEST_F(Poll, IsNotEndedByNoCarrier) {
+  reply("AT+CIND?", kCall);
+  ringNow();
+  receive(unsolicited("NO CARRIER"));
+  run(9);
+  EXPECT_FALSE(promptUp());
+  EXPECT_TRUE(polls());
+}
+
+}  // namespace
+}  // namespace gsm
