@@ -8,7 +8,7 @@ namespace {
 
 // Takes the field up to the next comma off `rest`.
 std::string takeField(std::string& rest) {
-  const std::string field = before(",", rest);
+  std::string field = before(",", rest);
   rest = behind(",", rest);
   return field;
 }

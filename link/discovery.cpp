@@ -80,8 +80,8 @@ void Form1::AcceptPort() try {
   CheckSimPin();
   panel_.form7.Show();
   Files& files = platform().files;
-  // During start-up the number belongs to the reading of this very file, even when a start-up within
-  // it has closed all files: nothing is saved then.
+  // During start-up the number belongs to the reading of this very file, even when a start-up
+  // within it has closed all files: nothing is saved then.
   constexpr int kFileNumber = 1;
   if (startUpFiles_.contains(kFileNumber)) throw failure::fileAlreadyOpen();
   files.openForOutput(kFileNumber, "COM.txt");

@@ -27,7 +27,7 @@ bool attempt(Statement&& statement) {
 
 // Takes the next field of a settings text off `rest`.
 std::string takeField(std::string& rest) {
-  const std::string field = rest.substr(0, rest.find(','));
+  std::string field = rest.substr(0, rest.find(','));
   rest = behind(",", rest);
   return field;
 }

@@ -50,7 +50,12 @@ void Window::load() {
   });
 }
 
-bool Window::isReachable() const { return loaded_ && Visible.peek() && !platform_.boxes.isUp(); }
+bool Window::isReachable() const {
+  // A key held down clicks on and on, each time on top of the handlers that wait.
+  constexpr int kDeepestForUser = 2 * HandlerStack::kDeepest;
+  return loaded_ && Visible.peek() && !platform_.boxes.isUp() &&
+         platform_.handlers.depth() < kDeepestForUser;
+}
 
 bool Window::userClose() {
   if (!isReachable()) return false;

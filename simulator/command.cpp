@@ -50,7 +50,7 @@ class CommandReader {
 
  private:
   std::string take(std::size_t count) {
-    const std::string taken(text_.substr(0, count));
+    std::string taken(text_.substr(0, count));
     text_.remove_prefix(taken.size());
     return taken;
   }

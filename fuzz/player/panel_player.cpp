@@ -204,7 +204,7 @@ void PanelPlayer::lineChanges(Decisions& decisions) {
   static constexpr auto kEvents = std::to_array<int>(
       {1, 3, 4, 5, 6, 7, 1001, 1002, 1003, 1004, 1006, 1007, 1008, 1009, 1010, 1011, 0, -1, 99});
   const auto event = static_cast<CommEvent>(kEvents[decisions.below(kEvents.size())]);
-  if (mayNest()) happens([this, event] { world_->panel.form1.MSComm1.raise(event); });
+  happens([this, event] { world_->panel.form1.MSComm1.raise(event); });
 }
 
 void PanelPlayer::machineChanges(Decisions& decisions) {

@@ -50,8 +50,8 @@ class PanelPlayer {
 
   Control* anyControl(Decisions& decisions);
   std::function<void()> deed(Control& control, Decisions& decisions);
-  /// Whether one more handler may be put on the stack: the program bounds what the modem can pile
-  /// up, and here nobody clicks or flickers faster than that.
+  /// Whether the user may put one more handler on the stack: the program bounds what the line can
+  /// pile up, and nobody clicks so fast.
   bool mayNest() const;
   void happens(std::function<void()> event);
   void run(Duration span);

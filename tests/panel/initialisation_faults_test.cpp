@@ -248,7 +248,7 @@ TEST_P(ModemLostInTheMiddle, UnpluggedLeavesAPanelAtRest) {
   settleAndCollect();
   Texts expected;
   for (std::size_t i = 0; i < rows().size(); ++i) {
-    const std::string& name = rows()[i].name;
+    const std::string name = rows()[i].name;
     // A silent modem stops the SIM check and the signal query, and nothing else; the latter is
     // content with the "OK" of the row before.
     if (i > GetParam() + 1 && GetParam() < 2) continue;

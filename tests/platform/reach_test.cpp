@@ -29,6 +29,17 @@ TEST_F(ReachTest, TheHandlerOfAClickCountsOnTheStack) {
   EXPECT_EQ(takeNotes(), Notes({"1"}));
 }
 
+TEST_F(ReachTest, AKeyHeldDownCantPileClicksUpForEver) {
+  int clicks = 0;
+  window.Command1.Click = [&] {
+    ++clicks;
+    window.Command1.userClick();
+  };
+  window.Command1.userClick();
+  EXPECT_EQ(clicks, 2 * HandlerStack::kDeepest);
+  EXPECT_TRUE(window.Command1.userClick()) << "in reach again once the stack has shrunk";
+}
+
 TEST_F(ReachTest, ADisabledControlIsOutOfReach) {
   noteEach(window.Command1.Click, "click");
   window.Command1.Enabled = false;

@@ -1,34 +1,9 @@
 #include "platform/serial_control.h"
 
-#include "tests/platform/platform_fixture.h"
+#include "tests/platform/serial_fixture.h"
 
 namespace gsm {
 namespace {
-
-class SerialControlTest : public PlatformTest {
- protected:
-  void SetUp() override {
-    machine().ports.set({{.number = 3},
-                         {.number = 5, .held = true},
-                         {.number = 7, .fails = "The port is on fire"},
-                         {.number = 12}});
-    machine().line.plug(3);
-    port.OnComm = [this] {
-      const CommEvent event = port.CommEvent;
-      note(event == CommEvent::receive ? "receive " + port.Input()
-                                       : "event " + std::to_string(static_cast<int>(event)));
-    };
-  }
-  void open() {
-    port.CommPort = 3;
-    port.PortOpen = true;
-  }
-  void arrive(const std::string& bytes, double after = 0) {
-    time().after(fromSeconds(after), [this, bytes] { machine().line.arrive(bytes); });
-  }
-
-  SerialControl port{platform(), "MSComm1"};
-};
 
 TEST_F(SerialControlTest, BeginsClosedOnPortOneReadyForBytes) {
   EXPECT_EQ(static_cast<int>(port.CommPort), 1);
@@ -262,71 +237,6 @@ TEST_F(SerialControlTest, WhatComesToAClosedPortIsLost) {
   run(1);
   EXPECT_EQ(takeNotes(), Notes());
   EXPECT_EQ(port.Input(), "");
-}
-
-TEST_F(SerialControlTest, AFullStackHoldsTheReceiveEventBackAndDeliversItWholeLater) {
-  open();
-  port.OnComm = [this] {
-    const std::string bytes = port.Input();
-    if (bytes != "+") note(bytes);
-    if (bytes == "+") wait(2);
-  };
-  for (int chunk = 0; chunk < 200; ++chunk) arrive("+");
-  arrive("a", 0.1);
-  arrive("b", 0.2);
-  run(1);
-  EXPECT_EQ(depth(), 200);
-  EXPECT_EQ(takeNotes(), Notes());
-  settle();
-  EXPECT_EQ(takeNotes(), Notes({"ab"}));
-  EXPECT_EQ(depth(), 0);
-}
-
-TEST_F(SerialControlTest, AFloodLosesNoByteAndKeepsTheStackBounded) {
-  open();
-  std::string received;
-  int deepest = 0;
-  port.OnComm = [&] {
-    received += port.Input();
-    deepest = std::max(deepest, depth());
-    wait(2);
-  };
-  std::string sent;
-  for (int chunk = 0; chunk < 5000; ++chunk) {
-    const std::string bytes = std::to_string(chunk) + ";";
-    sent += bytes;
-    arrive(bytes, chunk * 0.001);
-  }
-  settle();
-  EXPECT_EQ(received, sent);
-  EXPECT_EQ(deepest, 200);
-}
-
-TEST_F(SerialControlTest, BytesHeldBackAreLostWhenThePortCloses) {
-  open();
-  port.OnComm = [this] {
-    const std::string bytes = port.Input();
-    if (bytes != "+") note(bytes);
-    wait(2);
-  };
-  for (int chunk = 0; chunk < 200; ++chunk) arrive("+");
-  arrive("held", 0.1);
-  inProgram([this] { port.PortOpen = false; }, 0.2);
-  settle();
-  EXPECT_EQ(takeNotes(), Notes());
-}
-
-TEST_F(SerialControlTest, SendEventsAreNotHeldBack) {
-  open();
-  port.OnComm = [this] {
-    if (port.CommEvent != CommEvent::receive) note(std::to_string(depth()));
-    if (port.CommEvent == CommEvent::receive) wait(2);
-  };
-  for (int chunk = 0; chunk < 200; ++chunk) arrive("+");
-  run(0.1);
-  inProgram([this] { port.Output = "x"; });
-  settle();
-  EXPECT_EQ(takeNotes(), Notes({"201"}));
 }
 
 /// A line whose device is gone or refuses.
