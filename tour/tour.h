@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QDir>
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "app/panel.h"
+#include "platform/qt/binder.h"
+#include "platform/qt/desktop.h"
+#include "tour/routes.h"
+
+namespace gsm {
+
+/// A user who waits, clicks and takes pictures. It ends the process: with success when everything
+/// came as expected, else with failure and the reason on standard error.
+class Tour {
+ public:
+  /// The pictures go into the folder `shots`, one a window, of its last stop on view.
+  Tour(Desktop& desktop, Panel& panel, const Binder& screen, const QDir& shots, Route route);
+
+  /// Sets out; goes on while the desktop's event loop runs.
+  void begin();
+
+  [[noreturn]] void fail(const std::string& reason);
+
+ private:
+  void setOut();
+  void look();
+  bool isNextEager() const;
+  void takeShots();
+  void tell(const Window& window) const;
+  [[noreturn]] void finish();
+  [[noreturn]] void leave(int status);
+
+  Platform& platform_;
+  Panel& panel_;
+  const Binder& screen_;
+  const QDir shots_;
+  const Route route_;
+  std::size_t stop_ = 0;
+  Instant since_{};
+  std::optional<Instant> arrivedAt_;
+  std::unique_ptr<Repetition> looking_;
+};
+
+}  // namespace gsm
