@@ -75,8 +75,13 @@ void Tour::takeShots() {
   for (Window* window : panel_.windows()) {
     QWidget* widget = screen_.widget(*window);
     if (!widget->isVisible()) continue;
-    const QString file = shots_.filePath(QString::fromStdString(window->name()) + ".png");
-    if (!widget->grab().save(file)) {
+    const QImage picture = widget->grab().toImage();
+    if (std::exchange(pictures_[window], picture) == picture) continue;
+    const QString file = shots_.filePath(QString("%1-%2-%3.png")
+                                             .arg(stop_ + 1, 2, 10, QChar('0'))
+                                             .arg(QString(route_[stop_].name).replace(' ', '-'),
+                                                  QString::fromStdString(window->name())));
+    if (!picture.save(file)) {
       std::fprintf(stderr, "panel-tour: can't write %s\n", QFile::encodeName(file).constData());
       leave(EXIT_FAILURE);
     }

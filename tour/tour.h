@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QDir>
+#include <QImage>
 #include <cstddef>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -17,7 +19,8 @@ namespace gsm {
 /// came as expected, else with failure and the reason on standard error.
 class Tour {
  public:
-  /// The pictures go into the folder `shots`, one a window, of its last stop on view.
+  /// The pictures go into the folder `shots`: of each stop, the windows that look different by
+  /// then, as "09-phone-book-Form3.png".
   Tour(Desktop& desktop, Panel& panel, const Binder& screen, const QDir& shots, Route route);
 
   /// Sets out; goes on while the desktop's event loop runs.
@@ -43,6 +46,7 @@ class Tour {
   Instant since_{};
   std::optional<Instant> arrivedAt_;
   std::unique_ptr<Repetition> looking_;
+  std::map<const Window*, QImage> pictures_;  // the last of each
 };
 
 }  // namespace gsm
