@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <ctime>
@@ -14,6 +15,7 @@
 #include "platform/pty/pseudo_terminal.h"
 #include "platform/qt/binder.h"
 #include "platform/qt/desktop.h"
+#include "platform/sqlite/phone_book_file.h"
 #include "tests/qt/desktop_fixture.h"
 #include "tests/qt/simulated_modem.h"
 #include "tests/support/temporary_folder.h"
@@ -56,6 +58,7 @@ class PanelOnDesktopTest : public ::testing::Test {
     panel_->start();
   }
 
+  Panel& panel() { return *panel_; }
   Form1& form1() { return panel_->form1; }
   Form7& form7() { return panel_->form7; }
 
@@ -69,6 +72,12 @@ class PanelOnDesktopTest : public ::testing::Test {
 
   QString shown(const Label& label) {
     return qobject_cast<QLabel*>(screen_->widget(label))->text();
+  }
+  QStringList shownRows() {
+    const auto* list = qobject_cast<QListWidget*>(screen_->widget(panel_->form3.List1));
+    QStringList rows;
+    for (int row = 0; row < list->count(); ++row) rows.append(list->item(row)->text());
+    return rows;
   }
 
   TemporaryFolder folder_;
@@ -111,6 +120,25 @@ TEST_F(PanelOnDesktopTest, ShowsTheSignalWhenTheUserClicks) {
   click(*screen_->widget(form1().Label8));
   ASSERT_TRUE(runUntil([this] { return shown(form7().Label4).startsWith("31,"); }));
   EXPECT_TRUE(screen_->widget(form7().Image4)->isVisible());
+}
+
+TEST_F(PanelOnDesktopTest, NamesACallerWhomThePhoneBookKnowsUntilHeGivesUpSilently) {
+  folder_.write("COM.txt", "9600,N,8,1 3\r\n");
+  createPhoneBook(folder_.path() / "phonebook.mdb");
+  SimulatedModem modem(port(3), kSpeed, {.speed = 9600});
+  start();
+  ASSERT_TRUE(runUntil([this] { return isReady(); }));
+  click(*screen_->widget(form1().Command2));
+  ASSERT_TRUE(runUntil([this] { return shownRows().size() == 8; }));
+  EXPECT_EQ(shownRows().at(4), "5  0261914728          Dentist");
+  modem.command("ring 0261914728");
+  ASSERT_TRUE(runUntil([this] {
+    return shown(panel().form5.Label1) == "Call Received From  Dentist" &&
+           screen_->widget(panel().form5)->isVisible();
+  }));
+  modem.command("giveup silent");
+  EXPECT_TRUE(runUntil([this] { return !screen_->widget(panel().form5)->isVisible(); }));
+  EXPECT_TRUE(boxes_.empty());
 }
 
 TEST_F(PanelOnDesktopTest, FindsTheModemOnAnotherPortWhenTheSavedOneIsSilent) {
