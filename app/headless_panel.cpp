@@ -4,8 +4,9 @@
 
 namespace gsm {
 
-HeadlessPanel::HeadlessPanel(std::filesystem::path folder, LocalTime now)
-    : machine(std::move(folder), now),
+HeadlessPanel::HeadlessPanel(std::filesystem::path folder, LocalTime now,
+                             DatabaseEngine* otherDatabase)
+    : machine(std::move(folder), now, otherDatabase),
       modem(machine.time, machine.line),
       panel(machine.platform()) {
   machine.line.setModem(&modem);

@@ -11,8 +11,10 @@ namespace gsm {
 /// The whole panel on virtual time, with a scripted modem on its line.
 class HeadlessPanel {
  public:
-  /// `folder` is the program's own; `now` is the wall clock's time at the start.
-  HeadlessPanel(std::filesystem::path folder, LocalTime now);
+  /// `folder` is the program's own; `now` is the wall clock's time at the start. `otherDatabase`,
+  /// if given, stands in for the real engine.
+  HeadlessPanel(std::filesystem::path folder, LocalTime now,
+                DatabaseEngine* otherDatabase = nullptr);
   ~HeadlessPanel();
   HeadlessPanel(const HeadlessPanel&) = delete;
   HeadlessPanel& operator=(const HeadlessPanel&) = delete;

@@ -27,6 +27,7 @@ std::string behind(std::string_view end, std::string_view text);
 /// `text` without blanks at both ends. Other white space stays.
 std::string trim(std::string_view text);
 
+/// `text` with its letters as capitals, accented ones too.
 std::string upperCase(std::string_view text);
 
 /// The number that `text` spells: white space around it (line ends included), a sign, a point and

@@ -12,9 +12,11 @@ void HeadlessProgram::end() {
   throw ProgramEnd{};
 }
 
-HeadlessPlatform::HeadlessPlatform(std::filesystem::path folder, LocalTime start)
+HeadlessPlatform::HeadlessPlatform(std::filesystem::path folder, LocalTime start,
+                                   DatabaseEngine* otherDatabase)
     : time(start, [this] { return handlers_.depth() == 0; }),
       files(std::move(folder)),
-      platform_{time, time, handlers_, boxes, program_, files, ports, line, settings, database} {}
+      platform_{time,  time,  handlers_, boxes,    program_,
+                files, ports, line,      settings, otherDatabase ? *otherDatabase : database} {}
 
 }  // namespace gsm

@@ -40,7 +40,9 @@ class HeadlessProgram : public Program {
 /// Everything that the windows need, on virtual time, without a screen or a serial port.
 class HeadlessPlatform {
  public:
-  HeadlessPlatform(std::filesystem::path folder, LocalTime start);
+  /// `otherDatabase`, if given, stands in for the real engine; it outlives the platform.
+  HeadlessPlatform(std::filesystem::path folder, LocalTime start,
+                   DatabaseEngine* otherDatabase = nullptr);
 
   HandlerStack& handlers() { return handlers_; }
   Platform& platform() { return platform_; }

@@ -104,6 +104,33 @@ TEST_F(AddEntry, WithoutANumberOrANameIsRefused) {
   expectNothingAdded();
 }
 
+TEST_F(AddEntry, GoesBackOnlyWhenTheBoxIsAnswered) {
+  openAdd();
+  machine().boxes.setAnswer(HeadlessBoxes::Answer::hold);
+  click(form().Command1);
+  run(5);
+  EXPECT_TRUE(form().Visible.peek());
+  EXPECT_FALSE(calls().Visible.peek());
+  machine().boxes.answerTop();
+  settle();
+  expectBackAtCalls();
+}
+
+TEST_F(AddEntry, BeyondAFullBookIsRefusedTheSame) {
+  openAdd("1", "5");
+  fill("", "", "113", "Al");
+  ok();
+  expectBox("Address Book full");
+  EXPECT_EQ(sent(), Texts{});
+}
+
+TEST_F(AddEntry, LooksAtTheTextsBeforeTheCounts) {
+  openAdd("", "");
+  fill("", "", "113", "");
+  ok();
+  expectBox("Please Enter Valid Number/Name");
+}
+
 TEST_F(AddEntry, ToAFullBookIsRefusedWithoutTheModem) {
   openAdd("1", "1");
   fill("", "", "113", "Al");

@@ -26,6 +26,18 @@ TEST_P(CallEnd, ShowsInTheCallWindowAndKeepsTheTranscript) {
   EXPECT_FALSE(calls().Visible.peek());
 }
 
+TEST_P(CallEnd, IsWrittenAgainAtEachLaterText) {
+  layEntries({{"1", "112", "HELP"}});
+  route(GetParam().text);
+  for (int round = 0; round < 2; ++round) {
+    calls().Label3.Caption = "other";
+    inPanel([this] { prompt().Show(); });
+    route(kOk);
+    EXPECT_EQ(callStatus(), GetParam().status);
+    EXPECT_EQ(promptUp(), GetParam().promptStays);
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Rows, CallEnd,
     ::testing::Values(

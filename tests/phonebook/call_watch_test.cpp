@@ -158,6 +158,27 @@ TEST_F(CallWatch, OfARedialWithoutASemicolonDoesntBegin) {
   EXPECT_EQ(transcript(), "ATDL\r" + std::string(kError));
 }
 
+TEST_F(CallWatch, OfARedialWithoutTheEchoCutsTheNumber) {
+  world().modem.add({.write = "ATDL\r",
+                     .replies = {{{ModemScript::kDefaultDelay, "\r\n0146290800;\r\n"}}},
+                     .echo = false});
+  click(calls().Command8);
+  settle();
+  EXPECT_EQ(callStatus(), "Redialing 90800");
+  EXPECT_EQ(dialBox(), "90800");
+}
+
+TEST_F(CallWatch, OfARedialWhoseSemicolonStandsTooEarlyDoesntBegin) {
+  world().modem.add({.write = "ATDL\r",
+                     .replies = {{{ModemScript::kDefaultDelay, "\r\n112;\r\n"}}},
+                     .echo = false});
+  click(calls().Command8);
+  settle();
+  EXPECT_EQ(callStatus(), "");
+  EXPECT_EQ(dialBox(), "123");
+  EXPECT_EQ(transcript(), "\r\n112;\r\n");
+}
+
 TEST_F(CallWatch, OfADialOnAClosedPortDoesntBegin) {
   inPanel([this] { form1().MSComm1.PortOpen = false; });
   run(0);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/phonebook/phone_book_test.h"
+#include "tests/support/property_watch.h"
 #include "tests/support/rows.h"
 
 namespace gsm {
@@ -15,6 +16,11 @@ class Caller : public PhoneBookTest {
                 {"2", "+33612345678", "BOB"},
                 {"3", "0146290800", "SECOND"},
                 {"4", "112", "HELP"}});
+  }
+  /// As `route`, also while the poll runs.
+  void take(const std::string& text) {
+    receive(text);
+    settle();
   }
 };
 
@@ -66,6 +72,37 @@ INSTANTIATE_TEST_SUITE_P(
                       CallerRow{"Hidden", "", "Call Received-  ", "Call Waiting-  "}),
     RowName());
 
+// Blanks at the end don't count in a comparison, so the blank that is all of the criterion equals a
+// number that isn't there.
+TEST_F(Caller, WhoHidesTheNumberIsTakenForAnEntryWithoutOne) {
+  for (const char* number : {"", "  "}) {
+    SqliteEngine().OpenDatabase(bookFile())->Execute("delete from DATA where Name='NOBODY'");
+    layEntries({{"5", number, "NOBODY"}});
+    take(ring(""));
+    EXPECT_EQ(caller(), "Call Received From  NOBODY");
+    take(waitingCall(""));
+    EXPECT_EQ(caller(), "Call Waiting- NOBODY");
+    clearTranscript();
+  }
+}
+
+TEST_F(Caller, WithBlanksBehindTheNumberInTheBookIsKnown) {
+  layEntries({{"5", "0299999999 ", "TRAILING"}, {"6", "0288888888", "trailing"}});
+  take(ring("0288888888"));
+  EXPECT_EQ(caller(), "Call Received From  trailing");
+  // The blank is one of the last ten characters there, so the first digit isn't.
+  take(ring("0299999999"));
+  EXPECT_EQ(caller(), "Call Received-  0299999999");
+  take(ring("299999999"));
+  EXPECT_EQ(caller(), "Call Received From  TRAILING");
+}
+
+TEST_F(Caller, IsComparedWithoutRegardToCase) {
+  layEntries({{"5", "01#AB", "LETTERS"}});
+  take(ring("01#ab"));
+  EXPECT_EQ(caller(), "Call Received From  LETTERS");
+}
+
 TEST_F(Caller, ComesUpOnlyWhenTheRingHasWaitedForTheNumber) {
   receive(unsolicited("RING"));
   receive(unsolicited("+CLIP: \"0146290800\",129"), 0.5);
@@ -103,6 +140,51 @@ TEST_F(Caller, WhoWaitsIsShownAgainAtTheNextUnrelatedReply) {
   EXPECT_TRUE(promptUp());
   EXPECT_EQ(caller(), "Call Waiting- ALICE");
   EXPECT_EQ(transcript(), waitingCall("0146290800") + kOk);
+}
+
+TEST_F(Caller, WhoWaitsWithoutAQuoteOpensNoPrompt) {
+  route(unsolicited("+CCWA: ,,1"));
+  EXPECT_FALSE(promptUp());
+  EXPECT_FALSE(calls().isLoaded());
+}
+
+// The quote may be that of another line.
+TEST_F(Caller, WhoWaitsWithAQuoteAnywhereIsReadFromItsOwnLine) {
+  route(unsolicited("+CCWA: 0299999999,129") + unsolicited("\"x\""));
+  EXPECT_EQ(caller(), "Call Waiting-  29999999");
+}
+
+TEST_F(Caller, WhoWaitsBehindAnEarlierCommaEndsTheRouting) {
+  leaveInTranscript("a,b");
+  route(waitingCall("0146290800") + unsolicited("NO CARRIER"));
+  EXPECT_FALSE(promptUp());
+  EXPECT_FALSE(calls().isLoaded());
+}
+
+// Each chunk that was waiting routes what stays in the transcript.
+TEST_F(Caller, WhoWaitsIsShownOnceForEachChunk) {
+  int shown = 0;
+  prompt().Label1.Caption = "old";
+  prompt().Show();
+  PropertyWatch watch(prompt(), [&](PropertyId property) {
+    if (property == PropertyId::Visible) ++shown;
+  });
+  receive("\r\n+CCWA: ");
+  receive("\"0299999999\",", 0.1);
+  receive("129,1\r\n", 0.2);
+  settle();
+  EXPECT_EQ(shown, 3);
+  EXPECT_EQ(caller(), "Call Waiting-  0299999999");
+}
+
+TEST_F(Caller, WhoWaitsAndRingsAtOnceIsShownAsRinging) {
+  take(waitingCall("0146290800") + unsolicited("RING"));
+  EXPECT_EQ(caller(), "Call Waiting- ALICE");
+  EXPECT_EQ(transcript(), "");
+  EXPECT_TRUE(polls());
+  take(unsolicited("RING") + waitingCall("0146290800") + ring("0146290800"));
+  EXPECT_EQ(caller(), "Call Waiting- ALICE");
+  EXPECT_EQ(transcript().find("RING"), 2U);
 }
 
 TEST_F(Caller, IsMissedWhenAClearingReplySharesTheTranscript) {

@@ -56,6 +56,30 @@ INSTANTIATE_TEST_SUITE_P(
                       CountsRow{"NoCountsAtAll", kOk}),
     RowName());
 
+struct UsedRow {
+  std::string name;
+  std::string used;
+};
+
+class UnreadableUsedCount : public DownloadFailure,
+                            public ::testing::WithParamInterface<UsedRow> {};
+
+TEST_P(UnreadableUsedCount, EndsTheDownloadBehindTheStoringOfTheCounts) {
+  loadOldBook();
+  downloadBehind(information("+CPBS: \"SM\"," + GetParam().used + ",100"));
+  expectSilentEnd();
+  EXPECT_EQ(storedEntries(), BookRows{});
+  EXPECT_EQ(storedCounts(), (BookRows{{"100", GetParam().used}}));
+  EXPECT_EQ(used(), GetParam().used);
+  EXPECT_EQ(total(), "100");
+  EXPECT_EQ(sent(), Texts{});
+  EXPECT_EQ(transcript(), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, UnreadableUsedCount,
+                         ::testing::Values(UsedRow{"Nothing", ""}, UsedRow{"AWord", "all"}),
+                         RowName());
+
 struct EntryRow {
   std::string name;
   std::string number;
@@ -98,13 +122,16 @@ TEST_F(DownloadFailure, ANumberOfTwentyCharactersFits) {
   EXPECT_EQ(rows(), Texts{"1  12345678901234567890Six666"});
 }
 
-TEST_F(DownloadFailure, ANumberOfOneDigitWithAShortTailEndsTheDownload) {
+TEST_F(DownloadFailure, ANumberOfOneOrTwoDigitsWithAShortTailEndsTheDownload) {
   loadOldBook();
   // The piece that is looked at ends before the name does.
-  answerEntry(1, "1", "Al");
-  downloadBehind(information("+CPBS: \"SM\",1,100"));
-  expectSilentEnd();
-  EXPECT_EQ(storedEntries(), BookRows{});
+  for (const char* number : {"1", "12"}) {
+    answerEntry(1, number, "Al");
+    downloadBehind(information("+CPBS: \"SM\",1,100"));
+    expectSilentEnd();
+    EXPECT_EQ(storedEntries(), BookRows{});
+    clearTranscript();
+  }
 }
 
 TEST_F(DownloadFailure, AMissingFileEndsItBeforeAnything) {

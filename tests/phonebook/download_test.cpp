@@ -97,6 +97,35 @@ TEST_F(Download, KeepsWhatANameMayHold) {
   EXPECT_EQ(rows()[3], "4  112                 O'Hara");
 }
 
+TEST_F(Download, SkipsTheTypeOfANumberWhateverItsLength) {
+  answerCounts("3,100");
+  for (const std::string type : {"1", "81", "145"}) {
+    const std::string index = std::to_string(type.size());
+    reply("AT+CPBR=" + index,
+          information("+CPBR: " + index + ",\"014629080" + index + "\"," + type + ",\"Name\""));
+  }
+  download();
+  EXPECT_EQ(storedEntries(), (BookRows{{"1", "0146290801", "Name"},
+                                       {"2", "0146290802", "Name"},
+                                       {"3", "0146290803", "Name"}}));
+}
+
+TEST_F(Download, LosesAnEntryWhoseReplyAKeyPressClearsAway) {
+  layEntries({{"1", "112", "OLD"}});
+  openCalls();
+  answerCounts("2,100");
+  answerEntry(1, "0146290801", "One");
+  answerEntry(2, "0146290802", "Two");
+  click(calls().Command5);
+  run(2.5);
+  ASSERT_EQ(sent().back(), "AT+CPBR=1\r");
+  click(calls().Image[1]);
+  settle();
+  EXPECT_EQ(sent(), (Texts{"AT+VTS=1\r", "AT+CPBR=2\r"}));
+  EXPECT_EQ(dialBox(), "1");
+  EXPECT_EQ(storedEntries(), (BookRows{{"2", "0146290802", "Two"}}));
+}
+
 TEST_F(Download, TakesTheCarriageReturnAlongBehindAShortTotal) {
   answerCounts("1,10");
   answerEntry(1, "0146290801", "One");

@@ -39,6 +39,34 @@ TEST_F(BookList, OfAnEmptyBookAsksForTheCounts) {
   EXPECT_EQ(rows(), Texts{});
 }
 
+TEST_F(BookList, TakesTheFirstOfSeveralCounts) {
+  layEntries({{"1", "112", "HELP"}});
+  layCounts("100", "3");
+  layCounts("200", "4");
+  openCalls();
+  EXPECT_EQ(used() + "/" + total(), "3/100");
+}
+
+TEST_F(BookList, IsFoundInAFileOfTheNameInAnotherCase) {
+  layEntries({{"1", "112", "HELP"}});
+  std::filesystem::rename(bookFile(), folder() / "PHONEBOOK.Mdb");
+  openCalls();
+  EXPECT_EQ(rows(), Texts{"1  112                 HELP"});
+}
+
+TEST_F(BookList, OfAnEmptyBookOnAClosedPortOpensEmpty) {
+  layCounts("100", "0");
+  inPanel([this] {
+    form1().MSComm1.PortOpen = false;
+    calls().Show();
+  });
+  settle();
+  EXPECT_TRUE(calls().Visible.peek());
+  EXPECT_EQ(used() + total(), "");
+  EXPECT_EQ(boxes(), Texts{});
+  EXPECT_FALSE(ended());
+}
+
 TEST_F(BookList, IsBuiltAnewWhenTheWindowIsOpenedAgain) {
   layEntries({{"1", "112", "HELP"}});
   openCalls();

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/phonebook/phone_book_test.h"
+#include "tests/support/property_watch.h"
 #include "tests/support/rows.h"
 
 namespace gsm {
@@ -37,6 +38,94 @@ TEST_F(NewMessage, LosesWhatComesWhileThePictureIsUp) {
   settle();
   EXPECT_EQ(transcript(), "");
   EXPECT_FALSE(pictureUp());
+}
+
+TEST_F(NewMessage, TakesAReplyThatComesWhileThePictureIsUpForItsOwn) {
+  receive(unsolicited("+CMTI: \"SM\",12"));
+  receive(information("+CSQ: 15,99"), 2.5);
+  run(5.5);
+  // The reply's routing found the notice first, and shows the picture once more.
+  EXPECT_TRUE(pictureUp());
+  EXPECT_EQ(note(), "");
+  run(1.9);
+  EXPECT_TRUE(pictureUp());
+  run(0.2);
+  EXPECT_FALSE(pictureUp());
+  EXPECT_EQ(signal(), "");
+  EXPECT_EQ(transcript(), "");
+  EXPECT_EQ(waiting(), 0);
+}
+
+TEST_F(NewMessage, DuringAnotherTellsTheFirstOnesIndexAndThenNone) {
+  Texts notes;
+  panel().form8.Label4.Caption = "old";
+  PropertyWatch watch(panel().form8.Label4, [&](PropertyId) { notes.push_back(note()); });
+  receive(unsolicited("+CMTI: \"SM\",12"));
+  receive(unsolicited("+CMTI: \"SM\",13"), 3);
+  run(7.9);
+  EXPECT_TRUE(pictureUp());
+  EXPECT_EQ(notes, Texts{});
+  run(0.2);
+  // The newer notice reads the older line, clears, and leaves nothing to the older notice.
+  EXPECT_EQ(notes, (Texts{"New Message Received.12", "New Message Received."}));
+  EXPECT_FALSE(pictureUp());
+  EXPECT_EQ(colour(), 0xC0C0FF);
+  EXPECT_EQ(transcript(), "");
+}
+
+TEST_F(NewMessage, InTheSameTextAsAnotherIsToldOnce) {
+  receive(unsolicited("+CMTI: \"SM\",12") + unsolicited("+CMTI: \"SM\",13"));
+  settle();
+  EXPECT_EQ(note(), "New Message Received.12");
+}
+
+// Each chunk that was waiting routes the notice, but the first has taken the text along.
+TEST_F(NewMessage, InSeveralChunksIsToldOnce) {
+  receive("\r\n+CMTI: ");
+  receive("\"SM\",12\r\n", 0.1);
+  run(5.3);
+  EXPECT_EQ(note(), "New Message Received.12");
+  EXPECT_FALSE(pictureUp());
+  EXPECT_EQ(waiting(), 0);
+}
+
+TEST_F(NewMessage, ComesToAWindowThatStaysHidden) {
+  receive(unsolicited("+CMTI: \"SM\",12"));
+  settle();
+  EXPECT_TRUE(panel().form8.isLoaded());
+  EXPECT_FALSE(panel().form8.Visible.peek());
+}
+
+struct LateRow {
+  std::string name;
+  std::string text;
+  double after;  // the notice's line
+  std::string index;
+};
+
+class LateEndOfTheLine : public NewMessage, public ::testing::WithParamInterface<LateRow> {};
+
+// The line is read once the picture has gone, as it stands then.
+TEST_P(LateEndOfTheLine, CountsUntilThePictureHasGone) {
+  receive("\r\n+CMTI: \"SM\",A");
+  receive(GetParam().text, GetParam().after);
+  run(5.2);
+  EXPECT_EQ(note(), "New Message Received." + GetParam().index);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, LateEndOfTheLine,
+                         ::testing::Values(LateRow{"WithIt", "\r\n", 0.1, "A\r"},
+                                           LateRow{"BehindIt", "\r\n", 5.05, "10"}),
+                         RowName());
+
+TEST_F(NewMessage, WhoseLineEndComesWhileThePictureIsUpIsNotTranslated) {
+  receive("\r\n+CMTI: \"SM\",A");
+  receive("\r\n", 4);
+  Texts notes;
+  panel().form8.Label4.Caption = "old";
+  PropertyWatch watch(panel().form8.Label4, [&](PropertyId) { notes.push_back(note()); });
+  settle();
+  EXPECT_EQ(notes, (Texts{"New Message Received.A\r", "New Message Received."}));
 }
 
 struct IndexRow {

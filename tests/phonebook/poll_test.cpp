@@ -135,9 +135,39 @@ INSTANTIATE_TEST_SUITE_P(
                       BadReply{"OneField", "", information("+CIND: 5")},
                       BadReply{"NoOkYet", "", "\r\n+CIND: 5,4,1,0,0,0,0\r\n"},
                       BadReply{"AnOlderOk", "OK", kNoCall},
+                      // The fields are taken as far as that word stands from the beginning.
+                      BadReply{"AnOlderOkOnlyFarEnoughForTheFields", std::string(14, 'x') + "OK",
+                               kNoCall},
                       BadReply{"ACallFieldThatIsNoNumber", "", information("+CIND: 5,4,1,0,x,0,0")},
                       BadReply{"AnotherLine", "", information("+CSCS: 5,4,1,0,0,0,0")}),
     badReplyName);
+
+struct GoodReply {
+  std::string name;
+  std::string before;
+  std::string reply;
+};
+
+class PollThatEnds : public Poll, public ::testing::WithParamInterface<GoodReply> {};
+
+TEST_P(PollThatEnds, TakesThePromptDown) {
+  reply("AT+CIND?", GetParam().reply);
+  ringNow();
+  leaveInTranscript(GetParam().before);
+  run(9);
+  EXPECT_EQ(sent(), Texts{"AT+CIND?\r"});
+  EXPECT_FALSE(polls());
+  EXPECT_FALSE(promptUp());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, PollThatEnds,
+    ::testing::Values(GoodReply{"EightFields", "", information("+CIND: 5,4,1,0,0,0,0,1")},
+                      GoodReply{"TwoDigits", "", information("+CIND: 5,4,1,0,00,0,0")},
+                      GoodReply{"NothingButTheCallField", "", information("+CIND: ,,,,0,,")},
+                      // The older word stands far enough behind the beginning.
+                      GoodReply{"AnOlderOkFarBehind", std::string(40, 'x') + "OK", kNoCall}),
+    [](const ::testing::TestParamInfo<GoodReply>& row) { return row.param.name; });
 
 TEST_F(Poll, OfAClosedPortTriesAgain) {
   reply("AT+CIND?", kNoCall);
@@ -151,6 +181,58 @@ TEST_F(Poll, OfAClosedPortTriesAgain) {
   run(5);
   EXPECT_EQ(sent(), Texts{"AT+CIND?\r"});
   EXPECT_FALSE(promptUp());
+}
+
+TEST_F(Poll, IsNotEndedByThePromptsButtons) {
+  reply("AT+CIND?", kCall);
+  ringNow();
+  click(prompt().Command1);
+  run(8);
+  EXPECT_TRUE(polls());
+  click(prompt().Command2);
+  run(8);
+  EXPECT_FALSE(promptUp());
+  EXPECT_TRUE(polls());
+}
+
+TEST_F(Poll, WhoseAnswerAHandlerClearsAwayGoesOn) {
+  reply("AT+CIND?", kNoCall);
+  reply("AT+VTS=1", kOk);
+  inPanel([this] { calls().Show(); });
+  ringNow();
+  run(2.5);
+  ASSERT_EQ(sent(), Texts{"AT+CIND?\r"});
+  click(calls().Image[1]);
+  run(2);
+  EXPECT_TRUE(promptUp());
+  EXPECT_TRUE(polls());
+  run(5);
+  EXPECT_FALSE(promptUp());
+}
+
+// Its result is anybody's.
+TEST_F(Poll, GivesADialAnOkThatIsTakenForItsOwn) {
+  reply("AT+CIND?", kCall);
+  inPanel([this] { calls().Show(); });
+  calls().Text1.Text = "123";
+  ringNow();
+  click(calls().Command1);
+  run(10);
+  EXPECT_EQ(callStatus(), "Connected SuccessFully-123");
+}
+
+TEST_F(Poll, GivesADeleteAnOkThatIsTakenForItsOwn) {
+  reply("AT+CIND?", kCall);
+  layCounts("100", "1");
+  inPanel([this] { calls().Show(); });
+  ringNow();
+  select(0);
+  run(1);
+  click(calls().Command3);
+  run(6);
+  EXPECT_EQ(callStatus(), "Number Deleted");
+  EXPECT_EQ(storedEntries(), BookRows{});
+  EXPECT_EQ(boxes(), Texts{});
 }
 
 TEST_F(Poll, IsNotEndedByNoCarrier) {

@@ -1,29 +1,11 @@
+#include "tests/phonebook/simulated_book_test.h"
+
 #include <gtest/gtest.h>
-
-#include <memory>
-
-#include "platform/headless/simulated_modem.h"
-#include "tests/phonebook/phone_book_test.h"
 
 namespace gsm {
 namespace {
 
-// The call window against a modem that has a phone book and calls of its own.
-class SimulatedBook : public PhoneBookTest {
- protected:
-  void SetUp() override {
-    PhoneBookTest::SetUp();
-    modem_ = std::make_unique<SimulatedModem>(machine().time, machine().line,
-                                              simulator::ModemOptions{.speed = 9600});
-  }
-  // The modem goes after the panel's handlers have been unwound, and before the line.
-  void TearDown() override {
-    world().time().abandon();
-    modem_.reset();
-  }
-
-  std::unique_ptr<SimulatedModem> modem_;
-};
+class SimulatedBook : public SimulatedBookTest {};
 
 TEST_F(SimulatedBook, KeepsAnAddedEntryThroughAReload) {
   openCalls();

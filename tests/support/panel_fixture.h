@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/headless_panel.h"
@@ -30,6 +31,9 @@ class PanelTest : public ::testing::Test {
   /// The bytes of a file of the program's folder; nothing when there is none.
   std::optional<std::string> file(const std::string& name) const { return folder_.read(name); }
   const std::filesystem::path& folder() const { return folder_.path(); }
+
+  /// The program that is started next has `database` in the place of the real engine.
+  void useDatabase(std::shared_ptr<DatabaseEngine> database) { database_ = std::move(database); }
 
   /// Starts the program; nothing happens before time passes.
   void start(const Machine& machine = {});
@@ -74,6 +78,7 @@ class PanelTest : public ::testing::Test {
 
  private:
   TemporaryFolder folder_;
+  std::shared_ptr<DatabaseEngine> database_;
   mutable std::unique_ptr<HeadlessPanel> world_;
 };
 
