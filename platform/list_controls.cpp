@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/runtime_failure.h"
+#include "platform/scoped_value.h"
 #include "platform/text_box.h"
 
 namespace gsm {
@@ -20,6 +21,7 @@ ListControl::ListControl(Window& window, std::string name, int index, Control* c
 void ListControl::AddItem(std::string item, std::string tip) {
   reference();
   ItemTips.change([&](std::vector<std::string>& tips) { tips.push_back(std::move(tip)); });
+  const ScopedValue kept(itemsKept_, List.peek().size());
   List.change([&](std::vector<std::string>& items) { items.push_back(std::move(item)); });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,10 @@ class ListControl : public Control {
   void RemoveItem(int index);
   int ListCount() const;
 
+  /// For views, while they are told that the list has changed: so many items at its beginning are
+  /// known to be as before, so that nobody has to compare them.
+  std::size_t itemsKept() const { return itemsKept_; }
+
   /// The user picks the item at `index`. False when the control or the item is out of reach.
   bool userSelect(int index);
 
@@ -39,6 +44,8 @@ class ListControl : public Control {
 
  private:
   void select(int index);
+
+  std::size_t itemsKept_ = 0;
 };
 
 struct ListBoxDesign {

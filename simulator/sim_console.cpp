@@ -1,4 +1,5 @@
 #include "simulator/console_table.h"
+#include "simulator/phone_book_text.h"
 
 // The console's hands on the SIM card.
 namespace gsm::simulator {
@@ -42,7 +43,15 @@ std::string changeSim(ModemState& state, std::string_view operand) {
   return *status == SimStatus::kAbsent ? takeOut(state) : force(state, *status);
 }
 
+std::string showPhoneBook(ModemState& state, std::string_view) {
+  std::string entries = toText(state.phoneBook.entries());
+  if (entries.empty()) return "none";
+  entries.pop_back();  // the console ends the line itself
+  return entries;
+}
+
 constexpr ConsoleRow kRows[] = {
+    {"phonebook", "", "show the card's entries: location, number and name", showPhoneBook},
     {"sim", "ready|pin|puk|blocked|failed|out|in", "change the card, take it out or put it in",
      changeSim},
 };

@@ -27,12 +27,13 @@ QString tipOf(const ListControl& control, int item) {
 }
 
 // Makes `shown`, the items that `widget` shows, equal to those of `control`. Lists grow item by
-// item, so what is added is only appended.
+// item, so what is added is only appended, and what was there isn't even looked at.
 template <class Widget>
 void showList(Widget& widget, std::vector<std::string>& shown, const ListControl& control) {
   const auto& items = control.List.peek();
   const bool hasGrown =
-      items.size() >= shown.size() && std::equal(shown.begin(), shown.end(), items.begin());
+      control.itemsKept() == shown.size() ||
+      (items.size() >= shown.size() && std::equal(shown.begin(), shown.end(), items.begin()));
   if (!hasGrown) {
     widget.clear();
     shown.clear();

@@ -37,17 +37,33 @@ char foldCase(char character) {
   }
 }
 
-// Texts are equal without regard to case and to trailing blanks.
-std::string comparable(const void* utf8, int size) {
-  std::string text =
-      fromUtf8(std::string_view(static_cast<const char*>(utf8), static_cast<std::size_t>(size)));
-  text.erase(text.find_last_not_of(' ') + 1);
-  std::transform(text.begin(), text.end(), text.begin(), foldCase);
-  return text;
+std::string_view withoutTrailingBlanks(std::string_view text) {
+  return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
-int collate(void*, int sizeA, const void* a, int sizeB, const void* b) {
-  return comparable(a, sizeA).compare(comparable(b, sizeB));
+bool isAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](char each) { return static_cast<unsigned char>(each) < 0x80; });
+}
+
+int compareFolded(std::string_view a, std::string_view b) {
+  const auto [inA, inB] =
+      std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char one, char other) { return foldCase(one) == foldCase(other); });
+  if (inA == a.end() || inB == b.end()) return (inA != a.end()) - (inB != b.end());
+  const auto order = [](char each) { return static_cast<unsigned char>(foldCase(each)); };
+  return order(*inA) - order(*inB);
+}
+
+// Texts are equal without regard to case and to trailing blanks. Most are numbers, and needn't be
+// converted for it.
+int collate(void*, int sizeA, const void* bytesA, int sizeB, const void* bytesB) {
+  const std::string_view a =
+      withoutTrailingBlanks({static_cast<const char*>(bytesA), static_cast<std::size_t>(sizeA)});
+  const std::string_view b =
+      withoutTrailingBlanks({static_cast<const char*>(bytesB), static_cast<std::size_t>(sizeB)});
+  if (isAscii(a) && isAscii(b)) return compareFolded(a, b);
+  return compareFolded(fromUtf8(a), fromUtf8(b));
 }
 
 }  // namespace
@@ -97,8 +113,11 @@ bool Statement::step() {
   switch (sqlite3_step(statement_.get())) {
     case SQLITE_ROW: return true;
     case SQLITE_DONE: return false;
-    default: throw failureOf(connection_.handle());
+    default: break;
   }
+  const RuntimeFailure failure = failureOf(connection_.handle());
+  reset();
+  throw failure;
 }
 
 void Statement::mustChangeARow() {

@@ -36,6 +36,8 @@ class Statement {
 
   /// Runs to the next row; false when there is none left.
   bool step();
+  /// Lets go of the row and of the lock on the file; the statement can be run anew.
+  void reset() { sqlite3_reset(statement_.get()); }
   /// Runs a statement that changes a row by its key. A failure when the row is gone.
   void mustChangeARow();
   sqlite3_int64 number(int column) const;

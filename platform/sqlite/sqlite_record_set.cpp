@@ -1,6 +1,7 @@
 #include "platform/sqlite/sqlite_record_set.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "platform/code_page.h"
 #include "platform/criterion.h"
@@ -83,11 +84,24 @@ std::string SqliteRecordSet::field(const std::string& column) {
     if (set != values_.end()) return fromUtf8(set->second);
     if (change_ == Change::add) return {};
   }
-  Statement query(*connection_, "SELECT CAST(" + quotedName(name) + " AS TEXT) FROM " + table_ +
-                                    " WHERE rowid=?1");
+  Statement& query = reader(name);
   query.bind(1, currentKey());
-  if (!query.step()) throw RuntimeFailure(3167, "Record is deleted.");
-  return fromUtf8(query.text(0));
+  const bool isThere = query.step();
+  const std::string text = isThere ? fromUtf8(query.text(0)) : std::string();
+  query.reset();
+  if (!isThere) throw RuntimeFailure(3167, "Record is deleted.");
+  return text;
+}
+
+Statement& SqliteRecordSet::reader(const std::string& column) {
+  const auto known = readers_.find(column);
+  if (known != readers_.end()) return known->second;
+  const std::string sql =
+      "SELECT CAST(" + quotedName(column) + " AS TEXT) FROM " + table_ + " WHERE rowid=?1";
+  return readers_
+      .emplace(std::piecewise_construct, std::forward_as_tuple(column),
+               std::forward_as_tuple(*connection_, sql))
+      .first->second;
 }
 
 void SqliteRecordSet::AddNew() {

@@ -40,11 +40,15 @@ class SqliteRecordSet : public RecordSet {
   void addKey(sqlite3_int64 key);
   void updateRow();
 
+  /// The statement that reads the column, by the table's own name, of the row with a given key.
+  Statement& reader(const std::string& column);
+
   std::shared_ptr<Connection> connection_;
   const std::string table_;
   std::vector<std::string> columns_;
-  std::vector<sqlite3_int64> keys_;  // ascending
-  std::size_t current_ = 0;          // into keys_; its size is the end
+  std::map<std::string, Statement> readers_;  // kept, since a walk asks for each column of each row
+  std::vector<sqlite3_int64> keys_;           // ascending
+  std::size_t current_ = 0;                   // into keys_; its size is the end
   bool noMatch_ = false;
   Change change_ = Change::none;
   std::map<std::string, std::string> values_;  // of the change, by the table's own names, in UTF-8

@@ -1,6 +1,7 @@
 #include "platform/list_controls.h"
 
 #include "tests/platform/window_fixture.h"
+#include "tests/support/property_watch.h"
 
 namespace gsm {
 namespace {
@@ -26,6 +27,20 @@ TEST_F(ListControlsTest, ItemsStandInTheOrderInWhichTheyWereAdded) {
   EXPECT_EQ(window.List1.ListCount(), 4);
   EXPECT_EQ(window.List1.List.get(), Items({"300", "9600", "9600", "115200"}));
   EXPECT_EQ(window.List1.ListIndex.get(), -1);
+}
+
+TEST_F(ListControlsTest, OnlyAnAdditionTellsViewsThatTheItemsBeforeItAreKept) {
+  std::vector<std::size_t> kept;
+  const PropertyWatch watch(window.List1, [&](PropertyId property) {
+    if (property == PropertyId::List) kept.push_back(window.List1.itemsKept());
+  });
+  window.List1.AddItem("57600");
+  window.List1.RemoveItem(1);
+  window.List1.AddItem("1200");
+  window.List1.Clear();
+  window.List1.AddItem("2400");
+  EXPECT_EQ(kept, (std::vector<std::size_t>{4, 0, 4, 0, 0}));
+  EXPECT_EQ(window.List1.itemsKept(), 0U);
 }
 
 TEST_F(ListControlsTest, SettingTheIndexByCodeSelectsAndRunsClick) {

@@ -169,6 +169,14 @@ TEST(Console, StateShowsHowThingsStand) {
             "calls: none");
 }
 
+TEST(Console, PhonebookShowsTheCardsEntries) {
+  Bench bench({.phoneBook = {{2, {"+33639981201", "Anna"}}, {5, {"112", ""}}}});
+  EXPECT_EQ(bench.modem.console("phonebook"), "2\t+33639981201\tAnna\n5\t112\t");
+  bench.ask("AT+CPBW=2");
+  bench.ask("AT+CPBW=5");
+  EXPECT_EQ(bench.modem.console("phonebook"), "none");
+}
+
 TEST(Console, QuitIsPassedOn) {
   Bench bench;
   EXPECT_EQ(bench.modem.console("quit"), kDone);
@@ -177,9 +185,9 @@ TEST(Console, QuitIsPassedOn) {
 
 TEST(Console, HelpHasOneLineForEveryCommand) {
   const std::string help = "\n" + consoleHelp();
-  for (const char* name : {"signal", "register", "sim",    "ring",   "wait", "giveup", "answer",
-                           "busy",   "hangup",   "silent", "unplug", "plug", "say",    "line",
-                           "echo",   "speed",    "fault",  "state",  "help", "quit"}) {
+  for (const char* name : {"signal", "register", "phonebook", "sim",    "ring",   "wait", "giveup",
+                           "answer", "busy",     "hangup",    "silent", "unplug", "plug", "say",
+                           "line",   "echo",     "speed",     "fault",  "state",  "help", "quit"}) {
     EXPECT_NE(help.find("\n" + std::string(name) + " "), std::string::npos) << name;
   }
   Bench bench;

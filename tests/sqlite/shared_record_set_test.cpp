@@ -23,6 +23,17 @@ TEST_F(SharedRecordSet, TwoSetsSeeEachOthersChangesOfARow) {
   EXPECT_EQ(one->field("Name"), "Cora");
 }
 
+TEST_F(SharedRecordSet, ARowThatWasReadCanBeChangedElsewhereAtOnce) {
+  add({"Anna"});
+  const auto one = entries();
+  const auto two = open()->openRecordSet("DATA");
+  ASSERT_EQ(one->field("Name"), "Anna");
+  two->Edit();
+  two->setField("Name", "Bert");
+  EXPECT_EQ(failureOf([&] { two->Update(); }).description, "");
+  EXPECT_EQ(one->field("Name"), "Bert");
+}
+
 TEST_F(SharedRecordSet, ARowThatAnotherSetDeletedIsAFailure) {
   add({"Anna", "Bert"});
   const auto one = entries();

@@ -1,0 +1,151 @@
+#include "tests/together/simulated_week.h"
+
+#include <unistd.h>
+
+#include <cmath>
+#include <cstdlib>
+
+#include "simulator/phone_book_text.h"
+
+namespace gsm {
+namespace {
+
+simulator::PhoneBookEntries cardOf(int entries) {
+  if (entries == 0) return simulator::factoryPhoneBook();
+  simulator::PhoneBookEntries card;
+  for (int location = 1; location <= entries; ++location) {
+    const std::string text = std::to_string(location);
+    card[location] = {"01" + std::string(8 - text.size(), '4') + text, "Number " + text};
+  }
+  return card;
+}
+
+BookModel::Card cardIn(const simulator::PhoneBookEntries& entries) {
+  BookModel::Card card;
+  for (const auto& [location, entry] : entries) card[location] = {entry.number, entry.name};
+  return card;
+}
+
+// Where files are kept in memory, on many machines.
+constexpr const char* kMemory = "/dev/shm";
+bool movedToMemory = false;
+
+}  // namespace
+
+// Each row that is stored goes through to the disk, and a week stores hundreds: in memory it takes
+// seconds.
+void SimulatedWeek::SetUpTestSuite() {
+  if (std::getenv("TMPDIR") != nullptr || ::access(kMemory, W_OK) != 0) return;
+  ::setenv("TMPDIR", kMemory, /*overwrite=*/1);
+  movedToMemory = true;
+}
+
+void SimulatedWeek::TearDownTestSuite() {
+  if (movedToMemory) ::unsetenv("TMPDIR");
+  movedToMemory = false;
+}
+
+void SimulatedWeek::SetUp() {
+  createPhoneBook(bookFile());
+  layComFile("9600,N,8,1 3\r\n");
+}
+
+// The modem goes after the panel's handlers have been unwound, and before the line.
+void SimulatedWeek::TearDown() {
+  world().time().abandon();
+  modem_.reset();
+}
+
+void SimulatedWeek::begin(std::uint32_t seed, int entriesOnCard) {
+  random_.seed(seed);
+  const auto card = cardOf(entriesOnCard);
+  model_ = BookModel(cardIn(card));
+  start({.now = {2026, 3, 2, 6, 0, 0}});
+  modem_ = std::make_unique<SimulatedModem>(
+      machine().time, machine().line, simulator::ModemOptions{.speed = 9600, .phoneBook = card});
+  settle();
+  ASSERT_TRUE(form1().Command2.Enabled.peek()) << "the start-up didn't come to its end";
+  inPanel([this] {
+    form1().exchange("AT+CCWA=1,1,1");  // the modem tells of callers who wait
+    form1().Text1.clear();
+  });
+  settle();
+  openCallWindow();
+}
+
+double SimulatedWeek::timeOfDay() const { return std::fmod(kGettingUp + now(), kDay); }
+
+void SimulatedWeek::letTimePass() {
+  run(static_cast<double>(300 + below(1500)));
+  if (timeOfDay() < kGoingToBed) return;
+  comeToRest();
+  run(kDay - timeOfDay() + kGettingUp);
+}
+
+std::string SimulatedWeek::doSomething() {
+  struct Choice {
+    const char* name;
+    void (SimulatedWeek::*act)();
+    std::size_t weight;
+  };
+  static const std::vector<Choice> choices = {
+      {"picks an entry", &SimulatedWeek::pickEntryAtRandom, 2},
+      {"adds an entry", &SimulatedWeek::addSomeEntry, 8},
+      {"deletes an entry", &SimulatedWeek::removeEntryAtRandom, 6},
+      {"deletes none", &SimulatedWeek::removeNone, 1},
+      {"reloads the book", &SimulatedWeek::reload, 3},
+      {"reopens the calls", &SimulatedWeek::reopenCalls, 4},
+      {"closes the calls", &SimulatedWeek::closeCalls, 2},
+      {"uses the card elsewhere", &SimulatedWeek::useCardElsewhere, 2},
+      {"uses a silent modem", &SimulatedWeek::useSilentModem, 3},
+      {"uses the book during a call", &SimulatedWeek::useBookDuringACall, 4},
+      {"calls somebody", &SimulatedWeek::callSomebody, 5},
+      {"redials", &SimulatedWeek::redial, 3},
+      {"is called", &SimulatedWeek::letSomebodyCall, 8},
+  };
+  std::size_t sum = 0;
+  for (const Choice& choice : choices) sum += choice.weight;
+  std::size_t left = below(sum);
+  for (const Choice& choice : choices) {
+    if (left >= choice.weight) {
+      left -= choice.weight;
+      continue;
+    }
+    (this->*choice.act)();
+    return choice.name;
+  }
+  return {};
+}
+
+void SimulatedWeek::compareBook() {
+  const auto card = simulator::readPhoneBook(tell("phonebook"), simulator::kLongestNameRoom);
+  EXPECT_EQ(cardIn(card.entries), model_.card());
+  EXPECT_EQ(storedEntries(), model_.entries());
+  EXPECT_EQ(storedCounts(), model_.counts());
+  ASSERT_EQ(calls().isLoaded(), model_.window().has_value());
+  if (!model_.window()) return;
+  EXPECT_EQ(rows(), model_.window()->list);
+  EXPECT_EQ(used(), model_.window()->used);
+  EXPECT_EQ(total(), model_.window()->total);
+  EXPECT_EQ(dialBox(), model_.window()->dialBox);
+}
+
+void SimulatedWeek::type(TextBox& box, const std::string& text) {
+  world().time().after(Duration::zero(), [&box, text] {
+    box.userErase();
+    box.userType(text);
+  });
+  run(0);
+}
+
+void SimulatedWeek::expectBox(const std::string& text) {
+  EXPECT_EQ(boxes(), text.empty() ? Texts{} : Texts{text});
+}
+
+std::string SimulatedWeek::digits(std::size_t count) {
+  std::string all;
+  while (all.size() < count) all += static_cast<char>('0' + below(10));
+  return all;
+}
+
+}  // namespace gsm
