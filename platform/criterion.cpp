@@ -1,5 +1,6 @@
 #include "platform/criterion.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace gsm {
@@ -21,6 +22,30 @@ bool isRight(std::string_view word) {
     if ((word[i] | 0x20) != kRight[i]) return false;
   }
   return true;
+}
+
+char foldCase(char character) {
+  const auto byte = static_cast<unsigned char>(character);
+  if (byte >= 'A' && byte <= 'Z') return static_cast<char>(byte + 0x20);
+  if (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7) return static_cast<char>(byte + 0x20);
+  switch (byte) {
+    case 0x8A: return static_cast<char>(0x9A);
+    case 0x8C: return static_cast<char>(0x9C);
+    case 0x8E: return static_cast<char>(0x9E);
+    case 0x9F: return static_cast<char>(0xFF);
+    default: return character;
+  }
+}
+
+std::string_view withoutTrailingBlanks(std::string_view text) {
+  return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+bool sameText(std::string_view a, std::string_view b) {
+  a = withoutTrailingBlanks(a);
+  b = withoutTrailingBlanks(b);
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return foldCase(x) == foldCase(y); });
 }
 
 // Reads the criterion from left to right; a part that isn't there leaves it where it stands.
@@ -82,6 +107,12 @@ class Reader {
 };
 
 }  // namespace
+
+bool Criterion::isMetBy(std::string_view value) const {
+  if (last)
+    value.remove_prefix(value.size() - std::min(value.size(), static_cast<std::size_t>(*last)));
+  return sameText(value, text);
+}
 
 std::optional<Criterion> parseCriterion(std::string_view criterion) {
   Reader reader(criterion);

@@ -1,6 +1,5 @@
 #include "platform/sqlite/connection.h"
 
-#include <algorithm>
 #include <string_view>
 
 #include "platform/code_page.h"
@@ -24,32 +23,6 @@ RuntimeFailure failureOf(sqlite3* handle) {
   }
 }
 
-char foldCase(char character) {
-  const auto byte = static_cast<unsigned char>(character);
-  if (byte >= 'A' && byte <= 'Z') return static_cast<char>(byte + 0x20);
-  if (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7) return static_cast<char>(byte + 0x20);
-  switch (byte) {
-    case 0x8A: return static_cast<char>(0x9A);
-    case 0x8C: return static_cast<char>(0x9C);
-    case 0x8E: return static_cast<char>(0x9E);
-    case 0x9F: return static_cast<char>(0xFF);
-    default: return character;
-  }
-}
-
-// Texts are equal without regard to case and to trailing blanks.
-std::string comparable(const void* utf8, int size) {
-  std::string text =
-      fromUtf8(std::string_view(static_cast<const char*>(utf8), static_cast<std::size_t>(size)));
-  text.erase(text.find_last_not_of(' ') + 1);
-  std::transform(text.begin(), text.end(), text.begin(), foldCase);
-  return text;
-}
-
-int collate(void*, int sizeA, const void* a, int sizeB, const void* b) {
-  return comparable(a, sizeA).compare(comparable(b, sizeB));
-}
-
 }  // namespace
 
 Connection::Connection(const std::filesystem::path& file) : handle_(nullptr, &sqlite3_close) {
@@ -59,7 +32,9 @@ Connection::Connection(const std::filesystem::path& file) : handle_(nullptr, &sq
   handle_.reset(handle);
   if (result != SQLITE_OK) throw failureOf(handle);
   sqlite3_extended_result_codes(handle, 1);
-  sqlite3_create_collation(handle, "PHONEBOOK", SQLITE_UTF8, nullptr, collate);
+  // What has been stored outlives a loss of power: that the journal is gone must be on the disk
+  // too, or the change would be rolled back with the next opening.
+  Statement(*this, "PRAGMA synchronous=EXTRA").step();
 }
 
 std::vector<std::string> Connection::columnsOf(const std::string& table) const {

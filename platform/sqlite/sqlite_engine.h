@@ -9,6 +9,10 @@
 
 namespace gsm {
 
+/// The file of that name as it is really spelled: the last part of a name ignores case. `file`
+/// itself when there is none.
+std::filesystem::path ignoringCase(const std::filesystem::path& file);
+
 /// Databases in SQLite files.
 class SqliteEngine : public DatabaseEngine {
  public:

@@ -236,8 +236,8 @@ class PausesCountedInPasses : public ::testing::Test {
     HeadlessPlatform machine(folder.path(), now);
     const Platform& all = machine.platform();
     CountingLoop loop(all.loop);
-    Platform counted{all.clock, loop,      all.handlers,     all.boxes,   all.program,
-                     all.files, all.ports, all.serialDevice, all.settings};
+    Platform counted{all.clock, loop,      all.handlers,     all.boxes,    all.program,
+                     all.files, all.ports, all.serialDevice, all.settings, all.database};
     Panel panel(counted);
     bool ended = false;
     machine.time.after(Duration::zero(), [&] {

@@ -257,9 +257,9 @@ struct FailingDevice : SerialDevice {
 class FailingDeviceTest : public PlatformTest {
  protected:
   FailingDevice device;
-  Platform failing{platform().clock,   platform().loop,  platform().handlers, platform().boxes,
-                   platform().program, platform().files, platform().ports,    device,
-                   platform().settings};
+  Platform failing{platform().clock,    platform().loop,    platform().handlers, platform().boxes,
+                   platform().program,  platform().files,   platform().ports,    device,
+                   platform().settings, platform().database};
 };
 
 TEST_F(FailingDeviceTest, AWriteToADeviceThatIsGoneFailsAndThePortCanBeClosedAndOpenedAgain) {
