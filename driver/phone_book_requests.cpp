@@ -12,12 +12,13 @@ namespace fs = std::filesystem;
 
 constexpr const char* kFileName = "phonebook.mdb";
 
+bool sameName(const std::string& a, const std::string& b) { return upperCase(a) == upperCase(b); }
+
 const PhoneBookTable& tableOf(const Request& request) {
   const std::string name = request.text("table");
   const auto& tables = phoneBookTables();
-  const auto table = std::find_if(tables.begin(), tables.end(), [&name](const auto& each) {
-    return upperCase(each.name) == upperCase(name);
-  });
+  const auto table = std::find_if(tables.begin(), tables.end(),
+                                  [&name](const auto& each) { return sameName(each.name, name); });
   if (table == tables.end()) throw BadRequest("there is no table '" + name + "'");
   return *table;
 }
@@ -32,8 +33,10 @@ std::vector<Row> rowsOf(const Request& request, const PhoneBookTable& table) {
     if (!each.is_object()) throw BadRequest("a row is an object of columns");
     Row row;
     for (const auto& [column, value] : each.items()) {
-      const auto known = std::find(table.columns.begin(), table.columns.end(), column);
-      if (known == table.columns.end()) throw BadRequest("there is no column '" + column + "'");
+      const auto isThis = [&name = column](const std::string& own) { return sameName(own, name); };
+      if (std::none_of(table.columns.begin(), table.columns.end(), isThis)) {
+        throw BadRequest("table " + table.name + " has no column '" + column + "'");
+      }
       row.emplace_back(column, textOf(value, column.c_str()));
     }
     rows.push_back(std::move(row));
@@ -86,10 +89,12 @@ Json Session::rows(const Request& request) {
 Json Session::store(const Request& request) {
   const PhoneBookTable& table = tableOf(request);
   const std::vector<Row> rows = rowsOf(request, table);
-  const fs::path file = bookFolder(request) / kFileName;
+  const fs::path file = ignoringCase(bookFolder(request) / kFileName);
   asked([&] {
-    if (world_ == nullptr && !fs::exists(file)) createPhoneBook(file);
+    std::error_code ignored;
+    if (world_ == nullptr && !fs::exists(file, ignored)) createPhoneBook(file);
     const auto database = SqliteEngine().OpenDatabase(file);
+    database->Execute("begin immediate");  // all rows or, when one can't be stored, none
     database->Execute("delete from " + table.name);
     const auto set = database->openRecordSet(table.name);
     for (const Row& row : rows) {
@@ -97,6 +102,7 @@ Json Session::store(const Request& request) {
       for (const auto& [column, value] : row) set->setField(column, value);
       set->Update();
     }
+    database->Execute("commit");
   });
   return Json::object();
 }

@@ -7,28 +7,13 @@
 #include <limits>
 #include <system_error>
 
+#include "platform/code_page.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {
 namespace {
 
 constexpr bool isDigit(char character) { return character >= '0' && character <= '9'; }
-
-// The capital of a letter of Windows-1252, and any other character as it is: the sharp s, the micro
-// sign and the florin have none there.
-constexpr char upperLetter(char character) {
-  const auto byte = static_cast<unsigned char>(character);
-  const bool isPlain = byte >= 'a' && byte <= 'z';
-  const bool isAccented = byte >= 0xE0 && byte <= 0xFE && byte != 0xF7;
-  if (isPlain || isAccented) return static_cast<char>(byte - 0x20);
-  switch (byte) {
-    case 0x9A: return static_cast<char>(0x8A);
-    case 0x9C: return static_cast<char>(0x8C);
-    case 0x9E: return static_cast<char>(0x8E);
-    case 0xFF: return static_cast<char>(0x9F);
-    default: return character;
-  }
-}
 
 }  // namespace
 
@@ -62,7 +47,7 @@ std::string trim(std::string_view text) {
 
 std::string upperCase(std::string_view text) {
   std::string upper(text);
-  std::transform(upper.begin(), upper.end(), upper.begin(), upperLetter);
+  std::transform(upper.begin(), upper.end(), upper.begin(), capital);
   return upper;
 }
 

@@ -57,9 +57,24 @@ const std::array<char16_t, 256>& windows1252() {
 }
 
 char toWindows1252(char32_t character) {
+  if (character < 0x80) return static_cast<char>(character);
   const auto& table = windows1252();
   const auto found = std::find(table.begin(), table.end(), character);
   return found == table.end() ? '?' : static_cast<char>(found - table.begin());
+}
+
+char capital(char character) {
+  const auto byte = static_cast<unsigned char>(character);
+  const bool isPlain = byte >= 'a' && byte <= 'z';
+  const bool isAccented = byte >= 0xE0 && byte <= 0xFE && byte != 0xF7;
+  if (isPlain || isAccented) return static_cast<char>(byte - 0x20);
+  switch (byte) {
+    case 0x9A: return static_cast<char>(0x8A);
+    case 0x9C: return static_cast<char>(0x8C);
+    case 0x9E: return static_cast<char>(0x8E);
+    case 0xFF: return static_cast<char>(0x9F);
+    default: return character;
+  }
 }
 
 std::string toUtf8(std::string_view windows1252Text) {

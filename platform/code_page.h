@@ -15,6 +15,10 @@ const std::array<char16_t, 256>& windows1252();
 /// The byte for a Unicode character, "?" when the code page lacks it.
 char toWindows1252(char32_t character);
 
+/// The capital of a letter, accented or not; any other character as it is. The sharp s, the micro
+/// sign and the florin have none in the code page.
+char capital(char character);
+
 std::string toUtf8(std::string_view windows1252Text);
 
 /// What isn't UTF-8 becomes "?", byte by byte.

@@ -1,6 +1,9 @@
 #include "platform/criterion.h"
 
+#include <algorithm>
 #include <charconv>
+
+#include "platform/code_page.h"
 
 namespace gsm {
 namespace {
@@ -21,6 +24,17 @@ bool isRight(std::string_view word) {
     if ((word[i] | 0x20) != kRight[i]) return false;
   }
   return true;
+}
+
+std::string_view withoutTrailingBlanks(std::string_view text) {
+  return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+bool sameText(std::string_view a, std::string_view b) {
+  a = withoutTrailingBlanks(a);
+  b = withoutTrailingBlanks(b);
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return capital(x) == capital(y); });
 }
 
 // Reads the criterion from left to right; a part that isn't there leaves it where it stands.
@@ -82,6 +96,11 @@ class Reader {
 };
 
 }  // namespace
+
+bool Criterion::isMetBy(std::string_view value) const {
+  const auto kept = last ? std::min(value.size(), static_cast<std::size_t>(*last)) : value.size();
+  return sameText(value.substr(value.size() - kept), text);
+}
 
 std::optional<Criterion> parseCriterion(std::string_view criterion) {
   Reader reader(criterion);

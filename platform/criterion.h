@@ -11,6 +11,10 @@ struct Criterion {
   std::string column;
   std::optional<int> last;  // compare only so many of the column's last characters
   std::string text;
+
+  /// Whether a row with this text in the column meets it. Texts are Windows-1252, and compared
+  /// without regard to case and to trailing blanks.
+  bool isMetBy(std::string_view value) const;
 };
 
 /// Reads `column = 'text'` or `right(column, n) = 'text'`, with blanks wherever they do no harm.

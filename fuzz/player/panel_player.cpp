@@ -3,66 +3,16 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
-#include <string_view>
 #include <utility>
 #include <vector>
+
+#include "fuzz/player/modem_words.h"
 
 namespace gsm {
 namespace {
 
 constexpr int kMostHandlers = 240;  // that this player asks for
 constexpr int kDeepest = 300;       // that the program may have with those of its own
-
-// What modems say: the words that the panel looks for, and pieces of replies around them.
-constexpr auto kPieces = std::to_array<std::string_view>({"OK",
-                                                          "\r\nOK\r\n",
-                                                          "ERROR",
-                                                          "\r\nERROR\r\n",
-                                                          "RING\r\n",
-                                                          "CMTI",
-                                                          "+CMTI: \"SM\",4\r\n",
-                                                          "+CCWA:",
-                                                          "\"",
-                                                          "BUSY",
-                                                          "NO CARRIER\r\n",
-                                                          "NO ANSWER",
-                                                          "+CLIP: \"123\",129\r\n",
-                                                          "+CDS: ",
-                                                          "ATI0",
-                                                          "ATI3",
-                                                          "AT+CPBS?",
-                                                          "AT+VGR=",
-                                                          "AT+VGT=",
-                                                          "+VGR: 128",
-                                                          "+VGT: 64",
-                                                          "+ECHO: 0,1,2,3",
-                                                          "AT+ECHO=",
-                                                          "+SIDET: 1,2\r\n",
-                                                          "AT+SIDET=",
-                                                          "+CSQ: 31,0\r\n",
-                                                          "+CSQ: ",
-                                                          "+CREG: 0,1\r\n",
-                                                          "+CREG: 1\r\n",
-                                                          "+CPIN: READY",
-                                                          "+CPIN: SIM PIN",
-                                                          "+CPIN: SIM PUK",
-                                                          "AT+CPIN=\"0000\"",
-                                                          "AT+CSCA?",
-                                                          "+CSCA: \"+49\",145",
-                                                          "+CIND: 0,0,0,0,1,0,0",
-                                                          "AT+CGSN\r\r\n",
-                                                          "+ICF: 3,4",
-                                                          "+IPR: 9600",
-                                                          "+CCED: ",
-                                                          "&C1 &D2",
-                                                          ",",
-                                                          "1",
-                                                          "-99999",
-                                                          "\r",
-                                                          "\r\n",
-                                                          "> ",
-                                                          "AT",
-                                                          "S0:000"});
 
 constexpr std::array kSpans = {
     Duration(std::chrono::milliseconds(0)),  Duration(std::chrono::milliseconds(3)),
@@ -71,15 +21,6 @@ constexpr std::array kSpans = {
     Duration(std::chrono::seconds(5)),       Duration(std::chrono::seconds(60)),
     Duration(std::chrono::minutes(10)),      Duration(std::chrono::hours(1)),
 };
-
-std::string saying(Decisions& decisions) {
-  if (decisions.next() % 4 == 0) return decisions.text(40);
-  std::string text;
-  for (std::size_t pieces = 1 + decisions.below(4); pieces > 0; --pieces) {
-    text += kPieces[decisions.below(kPieces.size())];
-  }
-  return text;
-}
 
 std::vector<HeadlessPorts::Port> anyPorts(Decisions& decisions) {
   std::vector<HeadlessPorts::Port> ports;
@@ -97,7 +38,7 @@ std::vector<HeadlessPorts::Port> anyPorts(Decisions& decisions) {
 }  // namespace
 
 PanelPlayer::PanelPlayer(std::filesystem::path folder, Decisions& decisions)
-    : folder_(std::move(folder)) {
+    : folder_(std::move(folder)), book_(folder_) {
   startAnew(decisions);
 }
 
@@ -109,10 +50,16 @@ void PanelPlayer::startAnew(Decisions& decisions) {
   if (world_) earlier_ += world_->machine.time.now();
   modem_.reset();
   world_.reset();  // its handlers unwind before another's begin
+  book_.lay(decisions);
   world_ = std::make_unique<HeadlessPanel>(folder_, LocalTime{2026, 2, 27, 22, 0, 0});
   world_->machine.ports.set({{.number = 3}, {.number = 5}});
   world_->machine.line.plug(3);
   world_->modem.setOtherwise({.replies = {{{ModemScript::kDefaultDelay, "\r\nOK\r\n"}}}});
+  for (const auto& [command, answer] : bookAnswers()) {
+    world_->modem.add({.fit = ModemScript::Rule::Fit::beginning,
+                       .write = command,
+                       .replies = {{{ModemScript::kDefaultDelay, answer}}}});
+  }
   if (decisions.next() % 2 == 0) {
     modem_ = std::make_unique<SimulatedModem>(world_->time(), world_->machine.line,
                                               simulator::ModemOptions{.seed = decisions.next()});
@@ -130,11 +77,11 @@ void PanelPlayer::step(Decisions& decisions) {
   // Every step stands as often as it is likely.
   static constexpr auto kSteps = std::to_array<Step>(
       {&PanelPlayer::modemSays, &PanelPlayer::modemSays, &PanelPlayer::modemSays,
-       &PanelPlayer::modemFloods, &PanelPlayer::modemLearns, &PanelPlayer::lineChanges,
-       &PanelPlayer::machineChanges, &PanelPlayer::userActs, &PanelPlayer::userActs,
-       &PanelPlayer::userActs, &PanelPlayer::userActs, &PanelPlayer::userHandlesWindow,
-       &PanelPlayer::userHandlesBox, &PanelPlayer::timePasses, &PanelPlayer::timePasses,
-       &PanelPlayer::timePasses});
+       &PanelPlayer::modemFloods, &PanelPlayer::modemLearns, &PanelPlayer::callComes,
+       &PanelPlayer::lineChanges, &PanelPlayer::machineChanges, &PanelPlayer::userActs,
+       &PanelPlayer::userActs, &PanelPlayer::userActs, &PanelPlayer::userActs,
+       &PanelPlayer::userHandlesWindow, &PanelPlayer::userHandlesBox, &PanelPlayer::timePasses,
+       &PanelPlayer::timePasses, &PanelPlayer::timePasses});
   (this->*kSteps[decisions.next() % kSteps.size()])(decisions);
 }
 
@@ -152,37 +99,21 @@ void PanelPlayer::modemFloods(Decisions& decisions) {
   run(std::chrono::milliseconds(100));
 }
 
+// The first one loads the call window, which downloads the phone book where there is none.
+void PanelPlayer::callComes(Decisions& decisions) {
+  const std::string number = decisions.next() % 2 == 0 ? "0146290800" : "112";
+  happens([this, number] {
+    if (modem_) {
+      modem_->console("ring " + number);
+    } else {
+      world_->machine.line.arrive("\r\nRING\r\n\r\n+CLIP: \"" + number + "\",129\r\n");
+    }
+  });
+}
+
 // What a person does to the simulated modem at its console.
 void PanelPlayer::modemIsHandled(Decisions& decisions) {
-  static constexpr auto kLines = std::to_array<std::string_view>({"silent on",
-                                                                  "silent off",
-                                                                  "echo on",
-                                                                  "echo off",
-                                                                  "speed 115200",
-                                                                  "speed 9600",
-                                                                  "speed 0",
-                                                                  "fault add cut 3",
-                                                                  "fault add delay 1",
-                                                                  "fault add garble 10",
-                                                                  "fault add drop 10",
-                                                                  "fault clear",
-                                                                  "signal 31 0",
-                                                                  "signal 99",
-                                                                  "register 5",
-                                                                  "register 0",
-                                                                  "sim ready",
-                                                                  "sim pin",
-                                                                  "sim puk",
-                                                                  "sim out",
-                                                                  "sim in",
-                                                                  "sim failed",
-                                                                  "line +CREG: 1",
-                                                                  "line RING",
-                                                                  "unplug",
-                                                                  "plug",
-                                                                  "state"});
-  const std::string line(kLines[decisions.below(kLines.size())]);
-  if (modem_) happens([this, line] { modem_->console(line); });
+  if (modem_) happens([this, line = consoleLine(decisions)] { modem_->console(line); });
 }
 
 void PanelPlayer::modemLearns(Decisions& decisions) {
@@ -208,11 +139,13 @@ void PanelPlayer::lineChanges(Decisions& decisions) {
 }
 
 void PanelPlayer::machineChanges(Decisions& decisions) {
-  if (decisions.next() % 2 == 0) {
-    const auto port = static_cast<int>(decisions.next() % 6);
-    world_->machine.line.plug(port == 0 ? std::nullopt : std::optional(port));
-  } else {
-    world_->machine.ports.set(anyPorts(decisions));
+  switch (decisions.next() % 5) {
+    case 0:
+    case 1: world_->machine.ports.set(anyPorts(decisions)); break;
+    case 2: book_.change(decisions); break;
+    default:
+      const auto port = static_cast<int>(decisions.next() % 6);
+      world_->machine.line.plug(port == 0 ? std::nullopt : std::optional(port));
   }
 }
 
@@ -305,13 +238,15 @@ void PanelPlayer::rest() {
   HeadlessBoxes& boxes = world_->machine.boxes;
   world_->modem.forget();
   world_->machine.line.setModem(nullptr);
+  endCalls();
   boxes.setAnswer(HeadlessBoxes::Answer::automatic);
   while (boxes.isUp()) boxes.answerTop();
   // A handler may wait for the user to close the window that it has opened.
   for (Window* window : world_->panel.windows()) {
     if (window != &world_->panel.form1) happens([window] { window->userClose(); });
   }
-  world_->time().settle(std::chrono::hours(2));
+  // Nor is a download of thousands of entries cut short.
+  world_->time().settle(std::chrono::hours(26));
   look();
   if (world_->machine.time.hasEnded() || !problem_.empty()) return;
   if (world_->handlers().depth() != 0) problem_ = "handlers stay on the stack for ever";
@@ -327,10 +262,17 @@ void PanelPlayer::rest() {
   }
 }
 
+// Who rings does so for ever.
+void PanelPlayer::endCalls() {
+  const auto done = [this](const char* line) { return modem_->console(line).empty(); };
+  while (modem_ && (done("hangup silent") || done("giveup silent"))) {}
+}
+
 // What must hold at any moment between two steps.
 void PanelPlayer::look() {
   if (!problem_.empty()) return;
   const int depth = world_->handlers().depth();
+  problem_ = book_.problem();
   if (depth > kDeepest) problem_ = std::to_string(depth) + " handlers on the stack";
   if (!world_->machine.time.hasEnded()) {
     boxWasHeld_ = boxWasHeld_ || world_->machine.boxes.isUp();

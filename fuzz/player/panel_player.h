@@ -7,6 +7,7 @@
 
 #include "app/headless_panel.h"
 #include "fuzz/player/decisions.h"
+#include "fuzz/player/player_book.h"
 #include "platform/headless/simulated_modem.h"
 
 namespace gsm {
@@ -40,6 +41,7 @@ class PanelPlayer {
   void modemSays(Decisions& decisions);
   void modemFloods(Decisions& decisions);
   void modemLearns(Decisions& decisions);
+  void callComes(Decisions& decisions);
   void modemIsHandled(Decisions& decisions);
   void lineChanges(Decisions& decisions);
   void machineChanges(Decisions& decisions);
@@ -55,11 +57,13 @@ class PanelPlayer {
   bool mayNest() const;
   void happens(std::function<void()> event);
   void run(Duration span);
+  void endCalls();
 
   void look();
   bool hasReasonToEnd();
 
   const std::filesystem::path folder_;
+  PlayerBook book_;
   std::unique_ptr<HeadlessPanel> world_;
   std::unique_ptr<SimulatedModem> modem_;  // in the place of the scripted one; may be none
   Duration earlier_{0};

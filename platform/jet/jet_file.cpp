@@ -2,141 +2,53 @@
 
 #include <array>
 #include <fstream>
-#include <optional>
+#include <string>
 #include <string_view>
 
 #include "platform/jet/child_process.h"
+#include "platform/jet/jet_listener.h"
 #include "platform/jet/jet_messages.h"
 #include "platform/jet/jet_reader.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {
-namespace {
 
 namespace fs = std::filesystem;
 
-std::string quoted(const fs::path& file) { return "'" + file.string() + "'"; }
-
-RuntimeFailure damaged(const fs::path& file, const std::string& how) {
-  return {3343, quoted(file) + " is damaged: " + how + "."};
-}
-
-// Refuses what plainly isn't such a file, before any of it is given to the library.
-void checkHeader(const fs::path& file) {
+void checkJetHeader(const fs::path& file) {
+  const std::string name = "'" + file.string() + "'";
   std::error_code error;
   if (!fs::is_regular_file(file, error)) {
-    throw RuntimeFailure(3024, "Could not find file " + quoted(file) + ".");
+    throw RuntimeFailure(3024, "Could not find file " + name + ".");
   }
   std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw RuntimeFailure(3051, "Couldn't open " + quoted(file) + " for reading.");
+  if (!stream) throw RuntimeFailure(3051, "Couldn't open " + name + " for reading.");
 
   constexpr std::string_view kMark("\0\1\0\0Standard Jet DB\0", 20);
   std::array<char, kMark.size() + 1> head{};
   stream.read(head.data(), static_cast<std::streamsize>(head.size()));
-  const char version = head.back();
-  if (!stream || std::string_view(head.data(), kMark.size()) != kMark || version < 0 ||
-      version > 1) {
-    throw RuntimeFailure(3343, quoted(file) + " isn't a Jet 3 or Jet 4 database.");
+  const auto version = static_cast<unsigned char>(head.back());
+  if (!stream || std::string_view(head.data(), kMark.size()) != kMark || version > 1) {
+    throw RuntimeFailure(3343, name + " isn't a Jet 3 or Jet 4 database.");
   }
   // The library takes what lies behind the end for zeros, and so for tables without rows.
   const std::uintmax_t pageSize = version == 0 ? 2048 : 4096;
   const std::uintmax_t size = fs::file_size(file, error);
-  if (error || size % pageSize != 0) throw damaged(file, "its end is missing");
+  if (error || size % pageSize != 0) throw damagedJetFile(file, "its end is missing");
 }
-
-// Makes rows of what the reading process has said.
-class Listener {
- public:
-  Listener(const fs::path& file, const std::vector<JetTable>& tables, std::string_view said)
-      : file_(file), tables_(tables), said_(said) {}
-
-  std::vector<std::vector<JetRow>> listen() {
-    for (;;) {
-      switch (static_cast<JetMessage>(number())) {
-        case JetMessage::table: beginTable(); break;
-        case JetMessage::row: addRow(); break;
-        case JetMessage::problem: throw problem();
-        case JetMessage::end:
-          endTable();
-          if (rows_.size() != tables_.size() || !said_.atEnd()) throw nonsense();
-          return std::move(rows_);
-        default: throw nonsense();
-      }
-    }
-  }
-
- private:
-  RuntimeFailure nonsense() const { return damaged(file_, "it can't be read to its end"); }
-
-  std::uint32_t number() {
-    const auto value = said_.number();
-    if (!value) throw nonsense();
-    return *value;
-  }
-
-  void beginTable() {
-    endTable();
-    declared_ = number();
-    if (rows_.size() == tables_.size()) throw nonsense();
-    rows_.emplace_back();
-  }
-
-  // A file that was not closed properly may declare fewer rows than it has, never more.
-  void endTable() const {
-    if (rows_.empty() || rows_.back().size() >= declared_) return;
-    throw damaged(file_, "of the " + std::to_string(declared_) + " rows of table '" +
-                             tables_[rows_.size() - 1].name + "' only " +
-                             std::to_string(rows_.back().size()) + " can be read");
-  }
-
-  void addRow() {
-    if (rows_.empty()) throw nonsense();
-    JetRow row;
-    while (row.size() < tables_[rows_.size() - 1].columns.size()) {
-      auto text = said_.text();
-      if (!text) throw nonsense();
-      row.push_back(std::move(*text));
-    }
-    rows_.back().push_back(std::move(row));
-  }
-
-  RuntimeFailure problem() {
-    const auto what = static_cast<JetProblem>(number());
-    const std::uint32_t table = number();
-    const std::uint32_t column = number();
-    if (what == JetProblem::unreadable || table >= tables_.size()) return nonsense();
-    const JetTable& wanted = tables_[table];
-    if (what == JetProblem::noTable) {
-      return {3078, quoted(file_) + " has no table '" + wanted.name + "'."};
-    }
-    if (column >= wanted.columns.size()) return nonsense();
-    const std::string name =
-        "column '" + wanted.columns[column] + "' in its table '" + wanted.name + "'.";
-    if (what == JetProblem::noColumn) return {3265, quoted(file_) + " has no " + name};
-    return {3265, quoted(file_) + " has neither texts nor numbers in " + name};
-  }
-
-  const fs::path& file_;
-  const std::vector<JetTable>& tables_;
-  JetMessageReader said_;
-  std::uint32_t declared_ = 0;  // rows that the last table should have
-  std::vector<std::vector<JetRow>> rows_;
-};
-
-}  // namespace
 
 std::vector<std::vector<JetRow>> readJetFile(const fs::path& file,
                                              const std::vector<JetTable>& tables,
                                              const JetBounds& bounds) {
-  checkHeader(file);
+  checkJetHeader(file);
   const auto said = runInChild(
       [&](int descriptor) {
         JetMessageWriter out(descriptor);
         tellTables(file, tables, out);
       },
       {.time = bounds.time, .memory = bounds.memory, .output = bounds.texts});
-  if (!said) throw damaged(file, "reading it takes too long");
-  return Listener(file, tables, *said).listen();
+  if (!said) throw damagedJetFile(file, "reading it takes too long");
+  return rowsTold(file, tables, *said);
 }
 
 }  // namespace gsm

@@ -25,6 +25,10 @@ struct JetBounds {
   std::size_t texts = std::size_t{64} << 20;    // bytes, all tables together
 };
 
+/// Refuses what plainly isn't a Jet 3 or Jet 4 database, or lacks its end, before any of it is
+/// given to the library: a `RuntimeFailure`.
+void checkJetHeader(const std::filesystem::path& file);
+
 /// Reads tables of a Jet 3 or Jet 4 database, in whatever state it is; the file is opened for
 /// reading only. One list of rows for each of `tables`.
 ///

@@ -16,6 +16,7 @@
 #include "platform/qt/qt_settings_store.h"
 #include "platform/qt/uucp_lock.h"
 #include "platform/sqlite/sqlite_engine.h"
+#include "platform/sqlite/telling_engine.h"
 
 namespace gsm {
 

@@ -1,6 +1,5 @@
 #include "platform/sqlite/connection.h"
 
-#include <algorithm>
 #include <string_view>
 
 #include "platform/code_page.h"
@@ -24,48 +23,6 @@ RuntimeFailure failureOf(sqlite3* handle) {
   }
 }
 
-char foldCase(char character) {
-  const auto byte = static_cast<unsigned char>(character);
-  if (byte >= 'A' && byte <= 'Z') return static_cast<char>(byte + 0x20);
-  if (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7) return static_cast<char>(byte + 0x20);
-  switch (byte) {
-    case 0x8A: return static_cast<char>(0x9A);
-    case 0x8C: return static_cast<char>(0x9C);
-    case 0x8E: return static_cast<char>(0x9E);
-    case 0x9F: return static_cast<char>(0xFF);
-    default: return character;
-  }
-}
-
-std::string_view withoutTrailingBlanks(std::string_view text) {
-  return text.substr(0, text.find_last_not_of(' ') + 1);
-}
-
-bool isAscii(std::string_view text) {
-  return std::all_of(text.begin(), text.end(),
-                     [](char each) { return static_cast<unsigned char>(each) < 0x80; });
-}
-
-int compareFolded(std::string_view a, std::string_view b) {
-  const auto [inA, inB] =
-      std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char one, char other) { return foldCase(one) == foldCase(other); });
-  if (inA == a.end() || inB == b.end()) return (inA != a.end()) - (inB != b.end());
-  const auto order = [](char each) { return static_cast<unsigned char>(foldCase(each)); };
-  return order(*inA) - order(*inB);
-}
-
-// Texts are equal without regard to case and to trailing blanks. Most are numbers, and needn't be
-// converted for it.
-int collate(void*, int sizeA, const void* bytesA, int sizeB, const void* bytesB) {
-  const std::string_view a =
-      withoutTrailingBlanks({static_cast<const char*>(bytesA), static_cast<std::size_t>(sizeA)});
-  const std::string_view b =
-      withoutTrailingBlanks({static_cast<const char*>(bytesB), static_cast<std::size_t>(sizeB)});
-  if (isAscii(a) && isAscii(b)) return compareFolded(a, b);
-  return compareFolded(fromUtf8(a), fromUtf8(b));
-}
-
 }  // namespace
 
 Connection::Connection(const std::filesystem::path& file) : handle_(nullptr, &sqlite3_close) {
@@ -75,7 +32,9 @@ Connection::Connection(const std::filesystem::path& file) : handle_(nullptr, &sq
   handle_.reset(handle);
   if (result != SQLITE_OK) throw failureOf(handle);
   sqlite3_extended_result_codes(handle, 1);
-  sqlite3_create_collation(handle, "PHONEBOOK", SQLITE_UTF8, nullptr, collate);
+  // What has been stored outlives a loss of power: that the journal is gone must be on the disk
+  // too, or the change would be rolled back with the next opening.
+  Statement(*this, "PRAGMA synchronous=EXTRA").step();
 }
 
 std::vector<std::string> Connection::columnsOf(const std::string& table) const {

@@ -36,19 +36,6 @@ class SqliteDatabase : public Database {
   std::shared_ptr<Connection> connection_;
 };
 
-// The file of that name, in whatever case it is written.
-fs::path spelled(const fs::path& file) {
-  std::error_code error;
-  if (fs::exists(file, error)) return file;
-  const fs::path folder = file.has_parent_path() ? file.parent_path() : ".";
-  for (const auto& entry : fs::directory_iterator(folder, error)) {
-    if (strcasecmp(entry.path().filename().c_str(), file.filename().c_str()) == 0) {
-      return entry.path();
-    }
-  }
-  return file;
-}
-
 // Phone books of old machines are files of another engine, with this text at their beginning.
 bool isJetFile(const fs::path& file) {
   constexpr std::string_view kMark = "Standard Jet DB";
@@ -60,8 +47,21 @@ bool isJetFile(const fs::path& file) {
 
 }  // namespace
 
+fs::path ignoringCase(const fs::path& file) {
+  std::error_code error;
+  if (fs::exists(file, error)) return file;
+  const fs::path folder = file.has_parent_path() ? file.parent_path() : ".";
+  fs::directory_iterator each(folder, error);
+  for (; !error && each != fs::directory_iterator(); each.increment(error)) {
+    if (strcasecmp(each->path().filename().c_str(), file.filename().c_str()) == 0) {
+      return each->path();
+    }
+  }
+  return file;
+}
+
 std::shared_ptr<Database> SqliteEngine::OpenDatabase(const fs::path& name) {
-  const fs::path file = spelled(name);
+  const fs::path file = ignoringCase(name);
   std::error_code error;
   if (!fs::is_regular_file(file, error)) {
     throw RuntimeFailure(3024, "Could not find file '" + file.string() + "'.");
@@ -72,21 +72,6 @@ std::shared_ptr<Database> SqliteEngine::OpenDatabase(const fs::path& name) {
                                    "phonebook-import OLD NEW.");
   }
   return std::make_shared<SqliteDatabase>(file);
-}
-
-std::shared_ptr<Database> TellingEngine::OpenDatabase(const fs::path& file) {
-  try {
-    return engine_.OpenDatabase(file);
-  } catch (const RuntimeFailure& failure) {
-    if (!told_) {
-      told_ = true;
-      tell_("The phone book " + fs::absolute(file).string() +
-            " can't be used: " + failure.description() +
-            " Lay a phone book there: an empty one comes with the program, phonebook-import "
-            "brings one over from an old machine.");
-    }
-    throw;
-  }
 }
 
 }  // namespace gsm

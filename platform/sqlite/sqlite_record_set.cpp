@@ -57,18 +57,13 @@ const std::string& SqliteRecordSet::ownName(const std::string& column) const {
 void SqliteRecordSet::FindFirst(const std::string& text) {
   const auto criterion = parseCriterion(text);
   if (!criterion) throw RuntimeFailure(3077, "Syntax error in expression: " + text);
-  std::string value = "ifnull(CAST(" + quotedName(ownName(criterion->column)) + " AS TEXT),'')";
-  if (criterion->last) {
-    const std::string count = std::to_string(*criterion->last);
-    value = "CASE WHEN length(" + value + ")<=" + count + " THEN " + value + " ELSE substr(" +
-            value + ",length(" + value + ")-" + count + "+1) END";
-  }
-  Statement query(*connection_, "SELECT rowid FROM " + table_ + " WHERE (" + value +
-                                    ")=?1 COLLATE PHONEBOOK ORDER BY rowid");
-  query.bind(1, toUtf8(criterion->text));
+  const std::string& column = ownName(criterion->column);
   forgetChange();
   noMatch_ = true;
+  Statement query(*connection_, "SELECT rowid, CAST(" + quotedName(column) + " AS TEXT) FROM " +
+                                    table_ + " ORDER BY rowid");
   while (noMatch_ && query.step()) {
+    if (!criterion->isMetBy(fromUtf8(query.text(1)))) continue;
     // A row that another set has added meanwhile is not of this set before its next opening.
     const auto key = std::lower_bound(keys_.begin(), keys_.end(), query.number(0));
     if (key == keys_.end() || *key != query.number(0)) continue;
@@ -179,6 +174,7 @@ void SqliteRecordSet::Delete() {
   Statement deletion(*connection_, "DELETE FROM " + table_ + " WHERE rowid=?1");
   deletion.bind(1, currentKey());
   deletion.mustChangeARow();
+  forgetChange();  // or it would be stored into the row behind
   keys_.erase(keys_.begin() + static_cast<std::ptrdiff_t>(current_));
 }
 

@@ -76,6 +76,39 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_P(BadCriterion, IsRefused) { EXPECT_FALSE(parseCriterion(GetParam().criterion).has_value()); }
 
+struct Met {
+  const char* name;
+  std::optional<int> last;
+  std::string text;
+  std::string value;
+  bool met;
+};
+
+class MetCriterion : public ::testing::TestWithParam<Met> {};
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, MetCriterion,
+    ::testing::Values(Met{"Equal", {}, "Anna", "Anna", true},
+                      Met{"AnotherCase", {}, "ANNA \xC4\x8A\x9F", "anna \xE4\x9A\xFF", true},
+                      Met{"BlanksBehindEither", {}, "Anna ", "Anna   ", true},
+                      Met{"BlankInFront", {}, " Anna", "Anna", false},
+                      Met{"LongerText", {}, "Annas", "Anna", false},
+                      Met{"LongerValue", {}, "Anna", "Annas", false},
+                      Met{"Empty", {}, "", "  ", true},
+                      Met{"MultiplicationAndDivision", {}, "\xD7", "\xF7", false},
+                      Met{"SharpSAndY", {}, "\xDF", "\xFF", false},
+                      Met{"Last", 3, "567", "1234567", true},
+                      Met{"LastOfAShorterValue", 10, "112", "112", true},
+                      Met{"LastIsTakenBeforeTheBlanksGo", 3, "7", "4567  ", true},
+                      Met{"NotMoreThanTheLast", 3, "4567", "4567", false},
+                      Met{"LastOfNothing", 0, "", "4567", true}),
+    [](const auto& tested) { return tested.param.name; });
+
+TEST_P(MetCriterion, IsMetByTextsThatAreEqual) {
+  const Criterion criterion{"Name", GetParam().last, GetParam().text};
+  EXPECT_EQ(criterion.isMetBy(GetParam().value), GetParam().met);
+}
+
 TEST(Criterion, AZeroByteBehindTheTextIsRefused) {
   EXPECT_FALSE(parseCriterion(std::string_view("Name='x'\0", 9)).has_value());
 }

@@ -164,6 +164,16 @@ TEST_F(RecordSetTest, ADeletedRowIsGone) {
   EXPECT_EQ(rest(*set), (Names{"Anna", "Cora"}));
 }
 
+TEST_F(RecordSetTest, DeletingForgetsWhatWasNotStored) {
+  add({"Anna", "Bert"});
+  const auto set = entries();
+  set->Edit();
+  set->setField("Name", "Cora");
+  set->Delete();
+  EXPECT_EQ(failureOf([&] { set->Update(); }).number, 3020);
+  EXPECT_EQ(stored(), Names{"Bert"});
+}
+
 TEST_F(RecordSetTest, AllRowsCanBeDeleted) {
   add({"Anna", "Bert"});
   const auto set = entries();

@@ -1,14 +1,25 @@
 #include "tests/support/temporary_folder.h"
 
+#include <unistd.h>
+
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
 
 namespace gsm {
+namespace {
+
+std::filesystem::path placeForFolders() {
+  constexpr const char* kMemory = "/dev/shm";
+  const bool isChosen = std::getenv("TMPDIR") != nullptr;
+  return isChosen || access(kMemory, W_OK) != 0 ? std::filesystem::temp_directory_path() : kMemory;
+}
+
+}  // namespace
 
 TemporaryFolder::TemporaryFolder() {
-  std::string name = (std::filesystem::temp_directory_path() / "gsm-test-XXXXXX").string();
+  std::string name = (placeForFolders() / "gsm-test-XXXXXX").string();
   if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder: " + name);
   path_ = name;
 }

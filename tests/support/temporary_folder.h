@@ -6,7 +6,8 @@
 
 namespace gsm {
 
-/// A folder of a test's own, removed with all that is in it.
+/// A folder of a test's own, removed with all that is in it. It is kept in memory where the machine
+/// has a place for that, since databases wait for the disk at every change; TMPDIR chooses another.
 class TemporaryFolder {
  public:
   TemporaryFolder();

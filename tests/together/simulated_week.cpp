@@ -1,9 +1,6 @@
 #include "tests/together/simulated_week.h"
 
-#include <unistd.h>
-
 #include <cmath>
-#include <cstdlib>
 
 #include "simulator/phone_book_text.h"
 
@@ -26,24 +23,7 @@ BookModel::Card cardIn(const simulator::PhoneBookEntries& entries) {
   return card;
 }
 
-// Where files are kept in memory, on many machines.
-constexpr const char* kMemory = "/dev/shm";
-bool movedToMemory = false;
-
 }  // namespace
-
-// Each row that is stored goes through to the disk, and a week stores hundreds: in memory it takes
-// seconds.
-void SimulatedWeek::SetUpTestSuite() {
-  if (std::getenv("TMPDIR") != nullptr || ::access(kMemory, W_OK) != 0) return;
-  ::setenv("TMPDIR", kMemory, /*overwrite=*/1);
-  movedToMemory = true;
-}
-
-void SimulatedWeek::TearDownTestSuite() {
-  if (movedToMemory) ::unsetenv("TMPDIR");
-  movedToMemory = false;
-}
 
 void SimulatedWeek::SetUp() {
   createPhoneBook(bookFile());

@@ -20,8 +20,6 @@ namespace gsm {
 /// tests of its own.
 class SimulatedWeek : public PhoneBookTest {
  protected:
-  static void SetUpTestSuite();
-  static void TearDownTestSuite();
   void SetUp() override;
   void TearDown() override;
 

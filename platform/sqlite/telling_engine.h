@@ -1,0 +1,37 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/database.h"
+#include "platform/runtime_failure.h"
+
+namespace gsm {
+
+/// An engine that tells of the first database that can't be used, once in its life, and goes on
+/// failing as before. Handlers end silently on such a failure, and somebody should learn of it.
+class TellingEngine : public DatabaseEngine {
+ public:
+  /// `tell` is given what to show: the file's full name, what is wrong and what to do. The engine
+  /// outlives the databases that it opens.
+  TellingEngine(DatabaseEngine& engine, std::function<void(const std::string&)> tell)
+      : engine_(engine), tell_(std::move(tell)) {}
+
+  std::shared_ptr<Database> OpenDatabase(const std::filesystem::path& file) override;
+
+ private:
+  class TellingDatabase;
+
+  /// What `work` gives for `file`; tells of its failure before it passes it on.
+  template <class Work>
+  auto telling(const std::filesystem::path& file, Work&& work);
+  void tellOf(const std::filesystem::path& file, const RuntimeFailure& failure);
+
+  DatabaseEngine& engine_;
+  std::function<void(const std::string&)> tell_;
+  bool told_ = false;
+};
+
+}  // namespace gsm
