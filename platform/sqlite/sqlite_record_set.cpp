@@ -82,7 +82,7 @@ std::string SqliteRecordSet::field(const std::string& column) {
   Statement& query = reader(name);
   query.bind(1, currentKey());
   const bool isThere = query.step();
-  const std::string text = isThere ? fromUtf8(query.text(0)) : std::string();
+  std::string text = isThere ? fromUtf8(query.text(0)) : std::string();
   query.reset();
   if (!isThere) throw RuntimeFailure(3167, "Record is deleted.");
   return text;
