@@ -44,7 +44,7 @@ void Form3::deleteEntry() try {
   RecordSet& entries = Data1.Recordset();
   entries.FindFirst("INDEX='" + index + "'");
   if (!entries.NoMatch()) entries.Delete();
-  storeCounts(index);
+  storeCounts("USEDINDEX='" + index + "'");
   Data1.Refresh();
   Data2.Refresh();
   Text1.Text = "";

@@ -58,9 +58,9 @@ void Form3::storeEntry(const std::string& index, const std::string& number,
   entries.Update();
 }
 
-void Form3::storeCounts(const std::string& used) {
+void Form3::storeCounts(const std::string& criterion) {
   RecordSet& counts = Data2.Recordset();
-  counts.FindFirst("UsedIndex='" + used + "'");
+  counts.FindFirst(criterion);
   if (counts.NoMatch()) return;
   counts.Edit();
   counts.setField("TotalIndex", Text4.Text);

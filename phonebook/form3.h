@@ -57,8 +57,8 @@ class Form3 : public FeatureWindow {
   void addRow(const std::string& index, const std::string& number, const std::string& name);
   /// Adds an entry to the mirror.
   void storeEntry(const std::string& index, const std::string& number, const std::string& name);
-  /// Sets the stored counts to those on view, where the stored used count equals `used`.
-  void storeCounts(const std::string& used);
+  /// Sets the first stored counts that meet `criterion` to those on view, if any do.
+  void storeCounts(const std::string& criterion);
 
  protected:
   void Form_Load() override;

@@ -62,7 +62,7 @@ void Form4::recordEntry(int location, const std::string& phone) {
   calls.Visible = true;
   calls.Text2.Text = index;
   calls.storeEntry(index, phone, name);
-  calls.storeCounts(std::to_string(location - 1));
+  calls.storeCounts("UsedIndex='" + std::to_string(location - 1) + "'");
   calls.Label3.Caption = "New Entry  " + phone;
   calls.Data1.Refresh();
   calls.Show();
