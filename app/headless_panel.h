@@ -1,12 +1,15 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 
-#include "app/panel.h"
+#include "panel/panel.h"
 #include "platform/headless/headless_platform.h"
 #include "platform/headless/modem_script.h"
 
 namespace gsm {
+
+class Windows;
 
 /// The whole panel on virtual time, with a scripted modem on its line.
 class HeadlessPanel {
@@ -20,14 +23,19 @@ class HeadlessPanel {
   HeadlessPanel& operator=(const HeadlessPanel&) = delete;
 
   /// Begins the program; nothing happens before time passes.
-  void start() { panel.start(); }
+  void start();
 
   VirtualTime& time() { return machine.time; }
   HandlerStack& handlers() { return machine.handlers(); }
 
   HeadlessPlatform machine;
   ModemScript modem;
-  Panel panel;
+
+ private:
+  std::unique_ptr<Windows> windows_;
+
+ public:
+  Panel& panel;
 };
 
 }  // namespace gsm

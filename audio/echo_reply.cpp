@@ -1,6 +1,8 @@
 #include <vector>
 
-#include "app/panel.h"
+#include "audio/form6.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

@@ -1,5 +1,7 @@
-#include "app/panel.h"
-#include "dispatch/pair_reply.h"
+#include "audio/form6.h"
+#include "link/pair_reply.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
 
 namespace gsm {
 namespace {

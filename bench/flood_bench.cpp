@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app/headless_panel.h"
+#include "panel/form1.h"
 #include "tests/support/temporary_folder.h"
 
 namespace gsm {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "app/headless_panel.h"
+#include "phonebook/form3.h"
 #include "platform/sqlite/phone_book_file.h"
 #include "platform/sqlite/sqlite_engine.h"
 #include "tests/support/temporary_folder.h"

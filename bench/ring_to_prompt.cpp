@@ -15,12 +15,15 @@
 #include <string>
 #include <vector>
 
-#include "app/panel.h"
-#include "platform/qt/binder.h"
+#include "app/windows.h"
+#include "panel/form1.h"
+#include "phonebook/form5.h"
 #include "platform/qt/desktop.h"
 #include "platform/sqlite/phone_book_file.h"
-#include "tests/qt/simulated_modem.h"
+#include "tests/support/desktop/simulated_modem.h"
 #include "tests/support/temporary_folder.h"
+#include "ui/views/binder.h"
+#include "ui/views/look.h"
 
 namespace gsm {
 namespace {
@@ -74,8 +77,8 @@ class Bench {
     entries->setField("Number", kCaller);
     entries->setField("Name", "ALICE");
     entries->Update();
-    screen_.bind(panel_.windows());
-    panel_.start();
+    screen_.bind(desktop_.platform().windows);
+    start(panel_);
     // Without a saved port nothing else goes on in the panel.
     act([this] {
       panel_.form1.MSComm1.CommPort = 1;
@@ -135,7 +138,8 @@ class Bench {
   const TemporaryFolder folder_;
   SimulatedModem modem_;
   Desktop desktop_{{.programFolder = folder_.path()}};
-  Panel panel_{desktop_.platform()};
+  Windows windows_{desktop_.platform()};
+  Panel& panel_ = windows_.panel;
   Binder screen_{desktop_.platform().loop};
 };
 
@@ -146,6 +150,7 @@ void tell(const char* what, Milliseconds time) { std::printf("%s: %.1f ms\n", wh
 
 int main(int count, char** arguments) {
   const QApplication application(count, arguments);
+  gsm::dressApplication();
   const int rings = count > 1 ? std::atoi(arguments[1]) : 5;
   gsm::Bench bench;
   std::vector<gsm::Milliseconds> times;

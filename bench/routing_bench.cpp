@@ -13,6 +13,7 @@
 #include <string_view>
 
 #include "app/headless_panel.h"
+#include "panel/form1.h"
 #include "tests/support/temporary_folder.h"
 
 namespace gsm {

@@ -1,4 +1,6 @@
-#include "app/panel.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
+#include "phonebook/form5.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

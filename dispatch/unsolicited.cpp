@@ -1,4 +1,9 @@
-#include "app/panel.h"
+#include "modem/form11.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
+#include "phonebook/form3.h"
+#include "phonebook/form5.h"
+#include "sms/form8.h"
 
 namespace gsm {
 namespace {

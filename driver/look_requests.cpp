@@ -1,6 +1,7 @@
 #include <charconv>
 
 #include "driver/session.h"
+#include "panel/form1.h"
 #include "platform/code_page.h"
 
 namespace gsm::driver {
@@ -44,7 +45,7 @@ MemberName memberName(const std::string& text) {
 }  // namespace
 
 Window& Session::windowNamed(const std::string& name) {
-  Window* window = world_->panel.window(name);
+  Window* window = gsm::windowNamed(world_->panel.platform, name);
   if (window == nullptr) throw BadRequest("there is no window '" + name + "'");
   return *window;
 }
@@ -117,7 +118,7 @@ Json Session::state(const Request&) {
   Json state = progress();
   Json loaded = Json::array();
   Json onView = Json::array();
-  for (Window* window : world_->panel.windows()) {
+  for (Window* window : world_->panel.platform.windows) {
     if (!window->isLoaded()) continue;
     loaded.push_back(window->name());
     if (window->Visible.peek()) onView.push_back(window->name());

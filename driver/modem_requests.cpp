@@ -1,5 +1,6 @@
 #include "driver/port_list.h"
 #include "driver/session.h"
+#include "panel/form1.h"
 
 namespace gsm::driver {
 namespace {

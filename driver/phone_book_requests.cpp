@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "driver/session.h"
+#include "link/text.h"
 #include "platform/code_page.h"
 #include "platform/runtime_failure.h"
 #include "platform/sqlite/phone_book_file.h"

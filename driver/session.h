@@ -8,6 +8,8 @@
 #include <string_view>
 
 #include "app/headless_panel.h"
+#include "controls/controls.h"
+#include "controls/window.h"
 #include "driver/request.h"
 
 namespace gsm::driver {

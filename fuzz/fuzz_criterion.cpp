@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "fuzz/must_hold.h"
-#include "platform/criterion.h"
+#include "platform/sqlite/criterion.h"
 
 namespace gsm {
 namespace {

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "fuzz/must_hold.h"
-#include "platform/jet/jet_listener.h"
+#include "importer/jet_listener.h"
 #include "tests/support/temporary_folder.h"
 
 namespace gsm {

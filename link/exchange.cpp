@@ -1,4 +1,4 @@
-#include "app/form1.h"
+#include "panel/form1.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "app/form1.h"
+#include "panel/form1.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

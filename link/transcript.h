@@ -5,8 +5,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "controls/text_box.h"
 #include "link/text.h"
-#include "platform/text_box.h"
 
 namespace gsm {
 

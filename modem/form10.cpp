@@ -1,6 +1,7 @@
 #include "modem/form10.h"
 
-#include "app/panel.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/window.h"
+#include "controls/controls.h"
+#include "controls/window.h"
 
 namespace gsm {
 
-class Panel;
+struct Panel;
 
 /// Asks for the SIM's code. Which of the four prompts and boxes are on view decides what the button
 /// sends: the PIN alone, or the PUK with a new PIN.

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/window.h"
+#include "controls/controls.h"
+#include "controls/window.h"
 
 namespace gsm {
 
-class Panel;
+struct Panel;
 
 /// A picture that tells of a new message for some seconds.
 class Form11 : public Window {

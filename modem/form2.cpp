@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "app/panel.h"
+#include "panel/panel.h"
 
 namespace gsm {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/window.h"
+#include "controls/controls.h"
+#include "controls/window.h"
 
 namespace gsm {
 
-class Panel;
+struct Panel;
 
 /// A picture with advice about the signal, which comes up for some seconds now and then.
 class Form20 : public Window {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/window.h"
+#include "controls/controls.h"
+#include "controls/window.h"
 
 namespace gsm {
 
-class Panel;
+struct Panel;
 
 /// Signal and registration, beside the other windows. It has no code: others write its controls.
 class Form7 : public Window {

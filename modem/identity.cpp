@@ -1,4 +1,6 @@
-#include "app/panel.h"
+#include "modem/form2.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

@@ -2,8 +2,11 @@
 #include <array>
 #include <string_view>
 
-#include "app/panel.h"
+#include "modem/form20.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
 #include "platform/runtime_failure.h"
+#include "settings/form15.h"
 
 namespace gsm {
 namespace {

@@ -1,8 +1,10 @@
 #include <array>
 #include <string_view>
 
-#include "app/panel.h"
-#include "dispatch/pair_reply.h"
+#include "link/pair_reply.h"
+#include "modem/form7.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

@@ -1,5 +1,7 @@
-#include "app/panel.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
 #include "platform/runtime_failure.h"
+#include "sms/form8.h"
 
 namespace gsm {
 

@@ -1,4 +1,8 @@
-#include "app/panel.h"
+#include "modem/form11.h"
+#include "modem/form20.h"
+#include "modem/form7.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

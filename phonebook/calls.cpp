@@ -1,7 +1,9 @@
 #include <array>
 #include <string_view>
 
-#include "app/panel.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
+#include "phonebook/form3.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

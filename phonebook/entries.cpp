@@ -1,5 +1,8 @@
-#include "app/panel.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
 #include "phonebook/book_row.h"
+#include "phonebook/form3.h"
+#include "phonebook/form4.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

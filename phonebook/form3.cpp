@@ -1,6 +1,7 @@
 #include "phonebook/form3.h"
 
-#include "app/panel.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
 #include "phonebook/book_row.h"
 #include "platform/runtime_failure.h"
 

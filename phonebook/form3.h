@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "app/feature_window.h"
-#include "platform/data_control.h"
+#include "controls/data_control.h"
+#include "panel/feature_window.h"
 
 namespace gsm {
 

@@ -1,6 +1,8 @@
 #include "phonebook/form4.h"
 
-#include "app/panel.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
+#include "phonebook/form3.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

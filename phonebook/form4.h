@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "platform/controls.h"
-#include "platform/window.h"
+#include "controls/controls.h"
+#include "controls/window.h"
 
 namespace gsm {
 
-class Panel;
+struct Panel;
 
 /// Asks for a new entry of the SIM's phone book.
 class Form4 : public Window {

@@ -1,6 +1,7 @@
 #include "phonebook/form5.h"
 
-#include "app/panel.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

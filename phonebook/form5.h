@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/window.h"
+#include "controls/controls.h"
+#include "controls/window.h"
 
 namespace gsm {
 
-class Panel;
+struct Panel;
 
 /// The prompt that comes up when somebody calls. It has no notion of a call: the dispatcher shows
 /// it, and the poll or "NO CARRIER" takes it down.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "platform/clock.h"
 #include "platform/database.h"
 #include "platform/event_loop.h"
@@ -13,6 +15,8 @@
 
 namespace gsm {
 
+class Window;
+
 /// Everything that the windows need of the machine. All of it outlives the windows.
 struct Platform {
   Clock& clock;
@@ -25,6 +29,8 @@ struct Platform {
   SerialDevice& serialDevice;
   SettingsStore& settings;
   DatabaseEngine& database;
+  /// The windows that there are, in the order of their making; each enters itself.
+  std::vector<Window*>& windows;
 };
 
 }  // namespace gsm

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/feature_window.h"
+#include "panel/feature_window.h"
 
 namespace gsm {
 

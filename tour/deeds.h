@@ -4,8 +4,8 @@
 #include <functional>
 #include <string>
 
-#include "platform/qt/binder.h"
-#include "platform/window.h"
+#include "controls/window.h"
+#include "ui/views/binder.h"
 
 namespace gsm {
 

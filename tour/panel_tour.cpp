@@ -9,11 +9,12 @@
 #include <optional>
 #include <string>
 
-#include "app/panel.h"
-#include "platform/qt/binder.h"
+#include "app/windows.h"
 #include "platform/qt/desktop.h"
 #include "tour/routes.h"
 #include "tour/tour.h"
+#include "ui/views/binder.h"
+#include "ui/views/look.h"
 
 namespace {
 
@@ -51,11 +52,13 @@ Options readOptions(const QStringList& arguments) {
 int main(int count, char** arguments) {
   const QApplication application(count, arguments);
   const Options options = readOptions(QCoreApplication::arguments());
+  gsm::dressApplication();
   gsm::Tour* running = nullptr;
   gsm::Desktop desktop({.programFolder = QFile::encodeName(options.folder).toStdString(),
                         .speed = options.speed,
                         .atEnd = [&] { running->fail("the program has ended by itself"); }});
-  gsm::Panel panel(desktop.platform());
+  gsm::Windows windows(desktop.platform());
+  gsm::Panel& panel = windows.panel;
   const auto route = gsm::routeOf(options.route, panel, options.console);
   if (!route) {
     std::fprintf(stderr, "panel-tour: there is no route \"%s\"\n", qPrintable(options.route));
@@ -63,10 +66,10 @@ int main(int count, char** arguments) {
   }
   QDir().mkpath(options.shots);
   gsm::Binder screen(desktop.platform().loop);
-  screen.bind(panel.windows());
+  screen.bind(desktop.platform().windows);
   gsm::Tour tour(desktop, panel, screen, QDir(options.shots), *route);
   running = &tour;
-  panel.start();
+  gsm::start(panel);
   tour.begin();
   desktop.run();
 }

@@ -2,6 +2,15 @@
 
 #include <string>
 
+#include "modem/form10.h"
+#include "modem/form2.h"
+#include "modem/form7.h"
+#include "panel/form1.h"
+#include "phonebook/form3.h"
+#include "phonebook/form4.h"
+#include "phonebook/form5.h"
+#include "startup/frm_settings.h"
+
 namespace gsm {
 namespace {
 

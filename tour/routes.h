@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "app/panel.h"
+#include "panel/panel.h"
 #include "tour/deeds.h"
 
 namespace gsm {

@@ -72,7 +72,7 @@ void Tour::look() {
 bool Tour::isNextEager() const { return stop_ + 1 < route_.size() && !route_[stop_ + 1].deed; }
 
 void Tour::takeShots() {
-  for (Window* window : panel_.windows()) {
+  for (Window* window : panel_.platform.windows) {
     QWidget* widget = screen_.widget(*window);
     if (!widget->isVisible()) continue;
     const QImage picture = widget->grab().toImage();
@@ -89,7 +89,7 @@ void Tour::takeShots() {
 }
 
 void Tour::finish() {
-  for (Window* window : panel_.windows()) {
+  for (Window* window : panel_.platform.windows) {
     if (screen_.widget(*window)->isVisible()) tell(*window);
   }
   leave(EXIT_SUCCESS);

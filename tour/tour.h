@@ -8,10 +8,10 @@
 #include <optional>
 #include <string>
 
-#include "app/panel.h"
-#include "platform/qt/binder.h"
+#include "panel/panel.h"
 #include "platform/qt/desktop.h"
 #include "tour/routes.h"
+#include "ui/views/binder.h"
 
 namespace gsm {
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "fuzz/player/modem_words.h"
+#include "panel/form1.h"
 
 namespace gsm {
 namespace {
@@ -150,7 +151,7 @@ void PanelPlayer::machineChanges(Decisions& decisions) {
 }
 
 Control* PanelPlayer::anyControl(Decisions& decisions) {
-  const auto windows = world_->panel.windows();
+  const auto windows = world_->panel.platform.windows;
   const auto& controls = windows[decisions.below(windows.size())]->controls();
   return controls.empty() ? nullptr : controls[decisions.below(controls.size())];
 }
@@ -195,7 +196,7 @@ void PanelPlayer::userActs(Decisions& decisions) {
 }
 
 void PanelPlayer::userHandlesWindow(Decisions& decisions) {
-  const auto windows = world_->panel.windows();
+  const auto windows = world_->panel.platform.windows;
   Window* const window = windows[decisions.below(windows.size())];
   const int what = decisions.next() % 4;
   if (!mayNest()) return;
@@ -242,7 +243,7 @@ void PanelPlayer::rest() {
   boxes.setAnswer(HeadlessBoxes::Answer::automatic);
   while (boxes.isUp()) boxes.answerTop();
   // A handler may wait for the user to close the window that it has opened.
-  for (Window* window : world_->panel.windows()) {
+  for (Window* window : world_->panel.platform.windows) {
     if (window != &world_->panel.form1) happens([window] { window->userClose(); });
   }
   // Nor is a download of thousands of entries cut short.

@@ -6,9 +6,11 @@
 #include <string>
 
 #include "app/headless_panel.h"
+#include "controls/controls.h"
+#include "controls/window.h"
 #include "fuzz/player/decisions.h"
 #include "fuzz/player/player_book.h"
-#include "platform/headless/simulated_modem.h"
+#include "simulator/host/simulated_modem.h"
 
 namespace gsm {
 

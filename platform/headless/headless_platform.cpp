@@ -16,7 +16,16 @@ HeadlessPlatform::HeadlessPlatform(std::filesystem::path folder, LocalTime start
                                    DatabaseEngine* otherDatabase)
     : time(start, [this] { return handlers_.depth() == 0; }),
       files(std::move(folder)),
-      platform_{time,  time,  handlers_, boxes,    program_,
-                files, ports, line,      settings, otherDatabase ? *otherDatabase : database} {}
+      platform_{.clock = time,
+                .loop = time,
+                .handlers = handlers_,
+                .boxes = boxes,
+                .program = program_,
+                .files = files,
+                .ports = ports,
+                .serialDevice = line,
+                .settings = settings,
+                .database = otherDatabase != nullptr ? *otherDatabase : database,
+                .windows = windows} {}
 
 }  // namespace gsm

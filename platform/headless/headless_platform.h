@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "platform/headless/headless_boxes.h"
 #include "platform/headless/headless_line.h"
@@ -54,6 +55,7 @@ class HeadlessPlatform {
   HeadlessSettings settings;
   Files files;
   SqliteEngine database;
+  std::vector<Window*> windows;
 
  private:
   HeadlessProgram program_{files, line};

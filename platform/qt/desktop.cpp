@@ -1,30 +1,10 @@
 #include "platform/qt/desktop.h"
 
 #include <QApplication>
-#include <QFile>
-#include <QIcon>
-#include <QStyleFactory>
 #include <clocale>
 #include <iostream>
 
-#include "ui/forms.h"
-
 namespace gsm {
-namespace {
-
-void dressApplication() {
-  ui::initResources();
-  // Windows come and go; the program ends when it says so.
-  QApplication::setQuitOnLastWindowClosed(false);
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
-  QApplication::setWindowIcon(QIcon(":/icons/gsm-application.svg"));
-  if (QFile style(":/style.qss"); style.open(QIODevice::ReadOnly)) {
-    qApp->setStyleSheet(QString::fromUtf8(style.readAll()));
-  }
-}
-
-}  // namespace
-
 Desktop::Desktop(const Options& options)
     : clock_(options.speed),
       loop_(clock_),
@@ -49,10 +29,12 @@ Desktop::Desktop(const Options& options)
                 .ports = ports_,
                 .serialDevice = serialDevice_,
                 .settings = settings_,
-                .database = database_} {
+                .database = database_,
+                .windows = windows_} {
   // Qt takes the user's ways of writing numbers for the whole program; the modem has none but C's.
   std::setlocale(LC_NUMERIC, "C");
-  dressApplication();
+  // Windows come and go; the program ends when it says so.
+  QApplication::setQuitOnLastWindowClosed(false);
 }
 
 void Desktop::run() {

@@ -2,19 +2,20 @@
 
 #include <filesystem>
 #include <functional>
+#include <vector>
 
 #include "platform/files.h"
 #include "platform/handler_stack.h"
 #include "platform/platform.h"
-#include "platform/qt/port_names.h"
-#include "platform/qt/posix_port_probe.h"
+#include "platform/posix/port_names.h"
+#include "platform/posix/posix_port_probe.h"
+#include "platform/posix/uucp_lock.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_event_loop.h"
 #include "platform/qt/qt_message_boxes.h"
 #include "platform/qt/qt_program.h"
 #include "platform/qt/qt_serial_device.h"
 #include "platform/qt/qt_settings_store.h"
-#include "platform/qt/uucp_lock.h"
 #include "platform/sqlite/sqlite_engine.h"
 #include "platform/sqlite/telling_engine.h"
 
@@ -29,7 +30,7 @@ class Desktop {
     std::function<void()> atEnd;          // done first when the program ends
   };
 
-  /// Needs Qt's application object, and gives it the program's look.
+  /// Needs Qt's application object, which from now on doesn't quit with its last window.
   explicit Desktop(const Options& options);
   Desktop(const Desktop&) = delete;
   Desktop& operator=(const Desktop&) = delete;
@@ -53,6 +54,7 @@ class Desktop {
   TellingEngine database_;
   QtProgram program_;
   HandlerStack handlers_;
+  std::vector<Window*> windows_;
   Platform platform_;
 };
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <system_error>
 
-#include "platform/qt/port_access.h"
+#include "platform/posix/port_access.h"
 #include "platform/qt/serial_line.h"
 #include "platform/qt/text_codec.h"
 #include "platform/runtime_failure.h"

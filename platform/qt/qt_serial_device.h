@@ -3,8 +3,8 @@
 #include <memory>
 
 #include "platform/event_loop.h"
-#include "platform/qt/port_names.h"
-#include "platform/qt/uucp_lock.h"
+#include "platform/posix/port_names.h"
+#include "platform/posix/uucp_lock.h"
 #include "platform/serial_device.h"
 
 namespace gsm {

@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "platform/event_loop.h"
-#include "platform/qt/modem_lines.h"
+#include "platform/posix/modem_lines.h"
 #include "platform/serial_device.h"
 
 namespace gsm {

@@ -4,8 +4,8 @@
 #include <tuple>
 
 #include "platform/code_page.h"
-#include "platform/criterion.h"
 #include "platform/runtime_failure.h"
+#include "platform/sqlite/criterion.h"
 
 namespace gsm {
 namespace {

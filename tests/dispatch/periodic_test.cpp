@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "panel/form1.h"
 #include "tests/support/panel_fixture.h"
 
 namespace gsm {

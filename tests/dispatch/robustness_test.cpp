@@ -3,6 +3,7 @@
 #include <array>
 #include <random>
 
+#include "panel/form1.h"
 #include "tests/support/modem_bytes.h"
 #include "tests/support/routing_test.h"
 #include "tests/support/seed.h"

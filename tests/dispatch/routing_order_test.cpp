@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "audio/form6.h"
+#include "modem/form2.h"
+#include "panel/form1.h"
 #include "tests/support/modem_bytes.h"
 #include "tests/support/routing_test.h"
 #include "tests/support/rows.h"

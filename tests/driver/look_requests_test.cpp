@@ -1,5 +1,7 @@
 // Looking: what a property holds, what was written, what was shown.
 
+#include "panel/form1.h"
+#include "startup/frm_settings.h"
 #include "tests/driver/driver_fixture.h"
 
 namespace gsm::driver {

@@ -1,5 +1,7 @@
 // Requests that can't be understood: each is answered with a reason and changes nothing.
 
+#include "audio/form6.h"
+#include "panel/form1.h"
 #include "tests/driver/driver_fixture.h"
 
 namespace gsm::driver {

@@ -1,6 +1,7 @@
 // What the modem does, and where it is plugged in. "<<Signal>>" writes "AT" to the port, so it is
 // the way to a write here; no text below holds a word that anything routes.
 
+#include "panel/form1.h"
 #include "tests/driver/driver_fixture.h"
 
 namespace gsm::driver {

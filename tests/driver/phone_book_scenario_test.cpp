@@ -1,5 +1,6 @@
 // The phone book and calls, driven from outside from the start of the program on.
 
+#include "phonebook/form3.h"
 #include "tests/driver/driver_fixture.h"
 #include "tests/support/modem_bytes.h"
 

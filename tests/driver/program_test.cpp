@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "panel/form1.h"
 #include "tests/support/temporary_folder.h"
 
 namespace gsm {

@@ -1,5 +1,6 @@
 // The run as a whole: start, time, settling, state, the end.
 
+#include "panel/form1.h"
 #include "tests/driver/driver_fixture.h"
 
 namespace gsm::driver {

@@ -47,7 +47,7 @@ TEST(SourceTree, HoldsTheProject) {
                        [path](const SourceFile& file) { return file.path == path; });
   };
   for (const char* path :
-       {"CMakeLists.txt", "app/form1.h", "dispatch/routing.cpp", "platform/clock.h",
+       {"CMakeLists.txt", "panel/form1.h", "dispatch/routing.cpp", "platform/clock.h",
         "simulator/modem.cpp", "tests/house/house_rules.h"}) {
     EXPECT_TRUE(holds(path)) << path;
   }

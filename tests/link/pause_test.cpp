@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "app/windows.h"
 #include "platform/runtime_failure.h"
 #include "tests/support/panel_fixture.h"
 #include "tests/support/rows.h"
@@ -236,13 +237,14 @@ class PausesCountedInPasses : public ::testing::Test {
     HeadlessPlatform machine(folder.path(), now);
     const Platform& all = machine.platform();
     CountingLoop loop(all.loop);
-    Platform counted{all.clock, loop,      all.handlers,     all.boxes,    all.program,
-                     all.files, all.ports, all.serialDevice, all.settings, all.database};
-    Panel panel(counted);
+    Platform counted{all.clock,    loop,         all.handlers, all.boxes,
+                     all.program,  all.files,    all.ports,    all.serialDevice,
+                     all.settings, all.database, all.windows};
+    Windows windows(counted);
     bool ended = false;
     machine.time.after(Duration::zero(), [&] {
       machine.handlers().run([&] {
-        panel.form1.Pause(seconds);
+        windows.panel.form1.Pause(seconds);
         ended = true;
       });
     });

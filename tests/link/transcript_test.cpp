@@ -4,9 +4,9 @@
 
 #include <random>
 
+#include "controls/window.h"
 #include "platform/headless/headless_platform.h"
 #include "platform/runtime_failure.h"
-#include "platform/window.h"
 #include "tests/support/seed.h"
 #include "tests/support/temporary_folder.h"
 

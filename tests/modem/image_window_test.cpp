@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "modem/form20.h"
 #include "tests/support/open_port_test.h"
 #include "tests/support/property_watch.h"
 

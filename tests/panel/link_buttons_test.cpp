@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "tests/panel/healthy_modem_test.h"
+#include "modem/form7.h"
+#include "panel/form1.h"
+#include "tests/support/healthy_modem_test.h"
 #include "tests/support/property_watch.h"
 
 namespace gsm {

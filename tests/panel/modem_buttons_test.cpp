@@ -1,6 +1,12 @@
 #include <gtest/gtest.h>
 
-#include "tests/panel/healthy_modem_test.h"
+#include "modem/form2.h"
+#include "panel/form1.h"
+#include "phonebook/form3.h"
+#include "security/form9.h"
+#include "settings/form15.h"
+#include "sms/form8.h"
+#include "tests/support/healthy_modem_test.h"
 #include "tests/support/property_watch.h"
 
 namespace gsm {

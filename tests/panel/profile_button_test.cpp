@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "tests/panel/healthy_modem_test.h"
+#include "panel/form1.h"
+#include "settings/form15.h"
+#include "tests/support/healthy_modem_test.h"
 
 namespace gsm {
 namespace {

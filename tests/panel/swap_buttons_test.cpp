@@ -1,6 +1,13 @@
 #include <gtest/gtest.h>
 
-#include "tests/panel/healthy_modem_test.h"
+#include "audio/form6.h"
+#include "modem/form11.h"
+#include "module/form16.h"
+#include "panel/form1.h"
+#include "security/form9.h"
+#include "services/form12.h"
+#include "settings/form14.h"
+#include "tests/support/healthy_modem_test.h"
 #include "tests/support/property_watch.h"
 
 namespace gsm {

@@ -3,6 +3,8 @@
 #include <fstream>
 #include <functional>
 
+#include "panel/form1.h"
+#include "phonebook/form4.h"
 #include "tests/phonebook/download_test.h"
 #include "tests/support/rows.h"
 

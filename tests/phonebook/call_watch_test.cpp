@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "panel/form1.h"
 #include "tests/phonebook/phone_book_test.h"
 #include "tests/support/property_watch.h"
 #include "tests/support/rows.h"

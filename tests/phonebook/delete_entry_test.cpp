@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "phonebook/form4.h"
 #include "tests/phonebook/phone_book_test.h"
 
 namespace gsm {

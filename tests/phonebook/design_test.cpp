@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <sstream>
 
+#include "panel/form1.h"
 #include "tests/phonebook/phone_book_test.h"
 #include "tests/support/rows.h"
 
@@ -59,7 +60,7 @@ class PhoneBookDesign : public PhoneBookTest, public ::testing::WithParamInterfa
 
 TEST_P(PhoneBookDesign, StandsBeforeAndBehindTheFirstLoad) {
   layEntries({{"1", "112", "HELP"}});
-  Window& window = *panel().window(GetParam().name);
+  Window& window = *windowNamed(panel().platform, GetParam().name);
   for (int load = 0; load < 2; ++load) {
     EXPECT_EQ(window.Caption.peek(), GetParam().caption);
     EXPECT_EQ(describe(window), GetParam().controls);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "panel/form1.h"
+
 namespace gsm {
 namespace {
 

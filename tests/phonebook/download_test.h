@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "panel/form1.h"
 #include "tests/phonebook/phone_book_test.h"
 
 namespace gsm {

@@ -4,6 +4,8 @@
 
 #include <memory>
 
+#include "panel/form1.h"
+#include "phonebook/form4.h"
 #include "tests/phonebook/download_test.h"
 
 namespace gsm {

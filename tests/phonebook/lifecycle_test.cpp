@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "modem/form7.h"
+#include "panel/form1.h"
+#include "phonebook/form4.h"
 #include "tests/phonebook/download_test.h"
 #include "tests/support/property_watch.h"
 

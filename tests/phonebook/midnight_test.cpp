@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "modem/form11.h"
+#include "panel/form1.h"
+#include "phonebook/form4.h"
+#include "sms/form8.h"
 #include "tests/phonebook/download_test.h"
 
 namespace gsm {

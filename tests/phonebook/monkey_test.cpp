@@ -4,6 +4,9 @@
 #include <functional>
 #include <random>
 
+#include "panel/form1.h"
+#include "phonebook/form3.h"
+#include "phonebook/form4.h"
 #include "tests/phonebook/download_test.h"
 #include "tests/support/seed.h"
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "panel/form1.h"
+#include "phonebook/form4.h"
 #include "tests/phonebook/phone_book_test.h"
 
 namespace gsm {

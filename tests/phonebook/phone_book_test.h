@@ -5,6 +5,9 @@
 #include <utility>
 #include <vector>
 
+#include "panel/form1.h"
+#include "phonebook/form3.h"
+#include "phonebook/form5.h"
 #include "platform/sqlite/phone_book_file.h"
 #include "platform/sqlite/sqlite_engine.h"
 #include "tests/support/modem_bytes.h"

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "phonebook/form4.h"
+
 namespace gsm {
 namespace {
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/headless/simulated_modem.h"
+#include "simulator/host/simulated_modem.h"
 #include "tests/phonebook/phone_book_test.h"
 
 namespace gsm {

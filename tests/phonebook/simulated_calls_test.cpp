@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "panel/form1.h"
 #include "tests/phonebook/simulated_book_test.h"
 
 namespace gsm {

@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "tests/platform/platform_fixture.h"
+#include "tests/support/platform_fixture.h"
 
 namespace gsm {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "tests/platform/platform_fixture.h"
+#include "tests/support/platform_fixture.h"
 
 namespace gsm {
 namespace {

@@ -1,6 +1,6 @@
 #include "platform/handler_stack.h"
 
-#include "tests/platform/platform_fixture.h"
+#include "tests/support/platform_fixture.h"
 
 namespace gsm {
 namespace {

@@ -1,6 +1,6 @@
 #include "platform/headless/headless_boxes.h"
 
-#include "tests/platform/platform_fixture.h"
+#include "tests/support/platform_fixture.h"
 
 namespace gsm {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "tests/platform/platform_fixture.h"
+#include "tests/support/platform_fixture.h"
 
 namespace gsm {
 namespace {

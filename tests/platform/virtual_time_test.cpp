@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "platform/headless/side_stack.h"
-#include "tests/platform/platform_fixture.h"
+#include "tests/support/platform_fixture.h"
 
 namespace gsm {
 namespace {

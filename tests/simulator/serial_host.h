@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/pty/descriptor.h"
+#include "simulator/host/descriptor.h"
 
 namespace gsm::pty {
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "panel/form1.h"
 #include "tests/support/panel_fixture.h"
 
 namespace gsm {

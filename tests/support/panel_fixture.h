@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "app/headless_panel.h"
+#include "panel/form1.h"
 #include "tests/support/temporary_folder.h"
 
 namespace gsm {

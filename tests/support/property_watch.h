@@ -3,8 +3,8 @@
 #include <functional>
 #include <utility>
 
-#include "platform/property.h"
-#include "platform/view.h"
+#include "controls/property.h"
+#include "controls/view.h"
 
 namespace gsm {
 

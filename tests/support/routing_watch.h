@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "app/headless_panel.h"
+#include "panel/form1.h"
 #include "tests/support/property_watch.h"
 
 namespace gsm {

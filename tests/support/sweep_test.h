@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "panel/form1.h"
 #include "tests/support/panel_fixture.h"
 
 namespace gsm {

@@ -5,7 +5,11 @@
 #include <memory>
 #include <string>
 
-#include "platform/headless/simulated_modem.h"
+#include "modem/form10.h"
+#include "modem/form2.h"
+#include "modem/form7.h"
+#include "panel/form1.h"
+#include "simulator/host/simulated_modem.h"
 #include "tests/support/panel_fixture.h"
 
 namespace gsm {

@@ -8,7 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/headless/simulated_modem.h"
+#include "panel/form1.h"
+#include "simulator/host/simulated_modem.h"
 #include "tests/phonebook/phone_book_test.h"
 #include "tests/support/property_watch.h"
 #include "tests/support/rows.h"

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "panel/form1.h"
 #include "simulator/phone_book_text.h"
 
 namespace gsm {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/headless/simulated_modem.h"
+#include "simulator/host/simulated_modem.h"
 #include "tests/phonebook/phone_book_test.h"
 #include "tests/together/book_model.h"
 

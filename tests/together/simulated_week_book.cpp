@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "panel/form1.h"
+#include "phonebook/form4.h"
 #include "tests/together/simulated_week.h"
 
 namespace gsm {

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "controls/control.h"
+#include "platform/database.h"
+
+namespace gsm {
+
+struct DataControlDesign {
+  std::string DatabaseName;
+  std::string RecordSource;  // a table
+};
+
+/// A control bound to a table of a database file in the current folder. It has no view.
+class DataControl : public Control {
+ public:
+  using Design = DataControlDesign;
+  DataControl(Window& window, std::string name, Design design, int index = kNoIndex);
+
+  /// Reopens the record set, so that rows written elsewhere are seen.
+  void Refresh();
+
+  /// The record set; opened when it isn't open yet.
+  RecordSet& Recordset();
+
+  void unloaded() override;
+
+ private:
+  const std::string databaseName_;
+  const std::string recordSource_;
+  std::shared_ptr<Database> database_;
+  std::unique_ptr<RecordSet> recordset_;
+};
+
+}  // namespace gsm

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/control.h"
+#include "controls/property.h"
+#include "platform/platform.h"
+
+namespace gsm {
+
+enum WindowState { normal = 0, minimised = 1, maximised = 2 };
+enum MousePointer { arrow = 0, hourglass = 11 };
+
+struct WindowDesign {
+  std::string Caption;
+};
+
+/// A window. The object exists for the whole run; being loaded is a state. Any reference to a
+/// property of it or of its controls loads it: every control takes its design state, and
+/// `Form_Load` runs. Closing it runs `Form_Unload` and loses the state.
+class Window : public PropertyOwner {
+ public:
+  /// Enters itself into `platform`'s list of windows, for as long as it exists.
+  Window(Platform& platform, std::string name, WindowDesign design = {});
+  ~Window() override;
+
+  void Show();
+  void Hide();
+
+  /// Runs `Form_Unload` and unloads the window; nothing when it isn't loaded.
+  void Unload();
+
+  bool isLoaded() const { return loaded_; }
+  void reference() const override;
+
+  Property<std::string> Caption;
+  Property<bool> Visible;
+  Property<int> WindowState;
+  Property<int> MousePointer;
+  Property<bool> TopMost;
+  /// Stands in the middle of the screen when it is shown.
+  Property<bool> Centred;
+
+  // What the user does. False when the window isn't in reach.
+  bool userClose();
+  bool userState(int state);
+
+  const std::vector<Control*>& controls() const { return controls_; }
+  /// The control of that name and index, or null.
+  Control* control(std::string_view name, int index = Control::kNoIndex) const;
+
+  Platform& platform() const { return platform_; }
+
+ protected:
+  virtual void Form_Load() {}
+  virtual void Form_Unload() {}
+  virtual void Form_Resize() {}
+
+  void stored(PropertyId property) override;
+
+ private:
+  friend class Control;
+
+  void load();
+  bool isReachable() const;
+
+  Platform& platform_;
+  std::vector<Control*> controls_;
+  bool loaded_ = false;
+};
+
+/// The window of that name, or null.
+Window* windowNamed(const Platform& platform, std::string_view name);
+
+}  // namespace gsm

@@ -1,0 +1,106 @@
+#include <array>
+
+#include "modem/form7.h"
+#include "panel/form1.h"
+#include "panel/panel.h"
+#include "platform/runtime_failure.h"
+
+namespace gsm {
+namespace {
+
+// From the slowest up.
+constexpr std::array kSpeeds = {"300,n,8,1",   "600,n,8,1",   "1200,n,8,1",  "2400,n,8,1",
+                                "4800,n,8,1",  "9600,n,8,1",  "19200,n,8,1", "38400,n,8,1",
+                                "57600,n,8,1", "115200,n,8,1"};
+
+std::string successor(const std::string& count) { return std::to_string(wholeNumber(count) + 1); }
+
+}  // namespace
+
+bool Form1::ComPortExists(int port) { return platform().ports.exists(port); }
+
+void Form1::ListCommPorts() {
+  for (int port = 1; port <= 32; ++port) {
+    const bool free = platform().ports.access(port) == PortProbe::Access::free;
+    if (free) Combo2.AddItem(" " + std::to_string(port));
+  }
+}
+
+void Form1::ScanForModem() {
+  std::string description;
+  try {
+    while (wholeNumber(PortIndex) != PortsToScan) {
+      Combo1.ListIndex = wholeNumber(PortIndex);
+      MSComm1.CommPort = wholeNumber(Combo1.Text.get());
+      Label5.Caption = "Scanning Port  " + Combo1.Text;
+      if (sweepSpeeds()) {
+        takeImei(Text1.position("AT+CGSN"));
+        ShowPortStatus();
+        AcceptPort();
+        Text1.clear();
+        return;
+      }
+      PortIndex = successor(PortIndex);
+      if (MSComm1.PortOpen) MSComm1.PortOpen = false;
+      if (wholeNumber(PortIndex) == Combo1.ListCount()) {
+        Label5.Caption = "No Modem Device Found.Set The Comm Ports";
+        Command7.Enabled = true;
+      }
+    }
+    return;
+  } catch (const RuntimeFailure& failure) {
+    description = failure.description();
+  }
+  if (description == failure::portAlreadyOpen().description()) {
+    PortIndex = successor(PortIndex);
+    ScanForModem();
+    description.clear();  // the sweep behind it has used the description up: the box stays blank
+  }
+  platform().boxes.show(description);
+}
+
+// Tries the speeds on the current port. Whether a modem has answered; then the port stays open.
+bool Form1::sweepSpeeds() {
+  for (const std::string speed : kSpeeds) {
+    if (!MSComm1.PortOpen) MSComm1.PortOpen = true;
+    MSComm1.Settings = speed;
+    if (std::string(MSComm1.Settings) == speed) {
+      exchange("AT+CGSN");
+      if (Text1.holds("OK")) {
+        MSComm1.Settings = speed;
+        return true;
+      }
+    }
+    MSComm1.PortOpen = false;
+  }
+  return false;
+}
+
+void Form1::AcceptPort() try {
+  ShowPortStatus();
+  Show();
+  CheckSimPin();
+  panel_.form7.Show();
+  Files& files = platform().files;
+  // During start-up the number belongs to the reading of this very file, even when a start-up
+  // within it has closed all files: nothing is saved then.
+  constexpr int kFileNumber = 1;
+  if (startUpFiles_.contains(kFileNumber)) throw failure::fileAlreadyOpen();
+  files.openForOutput(kFileNumber, "COM.txt");
+  files.printLine(kFileNumber, Label3.Caption + " " + std::to_string(MSComm1.CommPort));
+  files.closeAll();
+} catch (const RuntimeFailure& failure) {
+  if (failure.description() == failure::fileAlreadyOpen().description()) {
+    platform().files.closeAll();
+  } else {
+    platform().boxes.show(failure.description());
+  }
+}
+
+void Form1::ShowPortStatus() {
+  Label3.Caption = upperCase(std::string(MSComm1.Settings));
+  Label2.Caption = "Port " + std::to_string(MSComm1.CommPort);
+  Label1.Caption = MSComm1.PortOpen ? "Open" : "Closed";
+}
+
+}  // namespace gsm

@@ -1,0 +1,99 @@
+// What the serial control does while the handler stack is full.
+
+#include <algorithm>
+
+#include "tests/controls/serial_fixture.h"
+
+namespace gsm {
+namespace {
+
+class SerialFullStackTest : public SerialControlTest {};
+
+TEST_F(SerialFullStackTest, AFullStackHoldsTheReceiveEventBackAndDeliversItWholeLater) {
+  open();
+  port.OnComm = [this] {
+    const std::string bytes = port.Input();
+    if (bytes != "+") note(bytes);
+    if (bytes == "+") wait(2);
+  };
+  for (int chunk = 0; chunk < 200; ++chunk) arrive("+");
+  arrive("a", 0.1);
+  arrive("b", 0.2);
+  run(1);
+  EXPECT_EQ(depth(), 200);
+  EXPECT_EQ(takeNotes(), Notes());
+  settle();
+  EXPECT_EQ(takeNotes(), Notes({"ab"}));
+  EXPECT_EQ(depth(), 0);
+}
+
+TEST_F(SerialFullStackTest, AFloodLosesNoByteAndKeepsTheStackBounded) {
+  open();
+  std::string received;
+  int deepest = 0;
+  port.OnComm = [&] {
+    received += port.Input();
+    deepest = std::max(deepest, depth());
+    wait(2);
+  };
+  std::string sent;
+  for (int chunk = 0; chunk < 5000; ++chunk) {
+    const std::string bytes = std::to_string(chunk) + ";";
+    sent += bytes;
+    arrive(bytes, chunk * 0.001);
+  }
+  settle();
+  EXPECT_EQ(received, sent);
+  EXPECT_EQ(deepest, 200);
+}
+
+TEST_F(SerialFullStackTest, BytesHeldBackAreLostWhenThePortCloses) {
+  open();
+  port.OnComm = [this] {
+    const std::string bytes = port.Input();
+    if (bytes != "+") note(bytes);
+    wait(2);
+  };
+  for (int chunk = 0; chunk < 200; ++chunk) arrive("+");
+  arrive("held", 0.1);
+  inProgram([this] { port.PortOpen = false; }, 0.2);
+  settle();
+  EXPECT_EQ(takeNotes(), Notes());
+}
+
+TEST_F(SerialFullStackTest, AFullStackHoldsLineEventsBackEachCauseOnce) {
+  open();
+  port.OnComm = [this] {
+    if (port.CommEvent != CommEvent::receive) {
+      note(std::to_string(static_cast<int>(port.CommEvent)));
+    } else {
+      wait(2);
+    }
+  };
+  for (int chunk = 0; chunk < 200; ++chunk) arrive("+");
+  for (int change = 0; change < 1000; ++change) {
+    time().after(fromSeconds(0.1), [this] { port.raise(CommEvent::cts); });
+    time().after(fromSeconds(0.1), [this] { port.raise(CommEvent::framing); });
+  }
+  run(1);
+  EXPECT_EQ(depth(), 200);
+  EXPECT_EQ(takeNotes(), Notes());
+  settle();
+  EXPECT_EQ(takeNotes(), Notes({"3", "1004"}));
+}
+
+TEST_F(SerialFullStackTest, SendEventsAreNotHeldBack) {
+  open();
+  port.OnComm = [this] {
+    if (port.CommEvent != CommEvent::receive) note(std::to_string(depth()));
+    if (port.CommEvent == CommEvent::receive) wait(2);
+  };
+  for (int chunk = 0; chunk < 200; ++chunk) arrive("+");
+  run(0.1);
+  inProgram([this] { port.Output = "x"; });
+  settle();
+  EXPECT_EQ(takeNotes(), Notes({"201"}));
+}
+
+}  // namespace
+}  // namespace gsm

@@ -1,0 +1,159 @@
+#include "controls/text_box.h"
+
+#include <cctype>
+
+#include "tests/controls/window_fixture.h"
+
+namespace gsm {
+namespace {
+
+class TextBoxTest : public WindowTest {
+ protected:
+  TextBox& box() { return window.Text1; }
+  TextBox& shortBox() { return window.Text2; }  // takes four characters
+};
+
+TEST_F(TextBoxTest, AnAssignedTextIsCutToTheLimit) {
+  shortBox().Text = "1234567";
+  EXPECT_EQ(shortBox().Text.get(), "1234");
+  shortBox().Text = "12";
+  EXPECT_EQ(shortBox().Text.get(), "12");
+}
+
+TEST_F(TextBoxTest, ALimitOfZeroIsNone) {
+  const std::string text(100'000, 'x');
+  box().Text = text;
+  EXPECT_EQ(box().Text.get(), text);
+}
+
+TEST_F(TextBoxTest, ALimitThatCodeSetsCutsTheNextTextAlone) {
+  box().Text = "123456";
+  box().MaxLength = 3;
+  EXPECT_EQ(box().Text.get(), "123456");
+  box().Text = "abcdef";
+  EXPECT_EQ(box().Text.get(), "abc");
+}
+
+TEST_F(TextBoxTest, TheUserTypesAtTheEnd) {
+  EXPECT_TRUE(box().userType(" more"));
+  EXPECT_EQ(box().Text.get(), "design more");
+  EXPECT_EQ(box().SelStart.get(), 11);
+}
+
+TEST_F(TextBoxTest, AFullBoxTakesNoMoreKeys) {
+  EXPECT_TRUE(shortBox().userType("123456"));
+  EXPECT_EQ(shortBox().Text.get(), "1234");
+  EXPECT_TRUE(shortBox().userType("\b\b9"));
+  EXPECT_EQ(shortBox().Text.get(), "129");
+}
+
+TEST_F(TextBoxTest, TheBackspaceKeyTakesTheLastCharacterIfThereIsOne) {
+  EXPECT_TRUE(shortBox().userType("ab\b\b\b\bc"));
+  EXPECT_EQ(shortBox().Text.get(), "c");
+}
+
+TEST_F(TextBoxTest, ErasingEmptiesTheBox) {
+  EXPECT_TRUE(box().userErase());
+  EXPECT_EQ(box().Text.get(), "");
+  EXPECT_EQ(box().SelStart.get(), 0);
+}
+
+TEST_F(TextBoxTest, AnEditOfTheViewIsCutAndKeepsTheCaretInsideTheText) {
+  EXPECT_TRUE(shortBox().userEdit("123456", 2));
+  EXPECT_EQ(shortBox().Text.get(), "1234");
+  EXPECT_EQ(shortBox().SelStart.get(), 2);
+}
+
+TEST_F(TextBoxTest, TheKeyFilterSeesEachKeyAndMayDiscardIt) {
+  shortBox().KeyPress = [this](int key) {
+    note(std::to_string(key));
+    return std::isdigit(key) != 0 || key == TextBox::kBackspace ? key : 0;
+  };
+  EXPECT_TRUE(shortBox().userType("1a2\b"));
+  EXPECT_EQ(takeNotes(), Notes({"49", "97", "50", "8"}));
+  EXPECT_EQ(shortBox().Text.get(), "1");
+}
+
+TEST_F(TextBoxTest, TheKeyFilterMayReplaceAKey) {
+  shortBox().KeyPress = [](int key) { return std::toupper(key); };
+  shortBox().userType("ab");
+  EXPECT_EQ(shortBox().Text.get(), "AB");
+}
+
+TEST_F(TextBoxTest, TheKeyFilterSeesHighCharactersAsTheirCodes) {
+  shortBox().KeyPress = [this](int key) {
+    note(std::to_string(key));
+    return key;
+  };
+  shortBox().userType("\x80\xFF");
+  EXPECT_EQ(takeNotes(), Notes({"128", "255"}));
+  EXPECT_EQ(shortBox().Text.get(), "\x80\xFF");
+}
+
+TEST_F(TextBoxTest, AnAssignmentPassesTheKeyFilterBy) {
+  shortBox().KeyPress = [](int) { return 0; };
+  shortBox().Text = "abc";
+  EXPECT_EQ(shortBox().Text.get(), "abc");
+}
+
+TEST_F(TextBoxTest, ChangeRunsWithEachChangeByCodeOrUser) {
+  shortBox().Change = [this] { note(shortBox().Text); };
+  shortBox().Text = "a";
+  shortBox().Text = "a";
+  shortBox().userType("bc");
+  shortBox().userType("\b");
+  shortBox().userErase();
+  EXPECT_EQ(takeNotes(), Notes({"a", "ab", "abc", "ab", ""}));
+}
+
+TEST_F(TextBoxTest, AKeyThatChangesNothingRunsNoChange) {
+  noteEach(shortBox().Change, "change");
+  shortBox().userType("\b");
+  shortBox().Text = "1234";
+  takeNotes();
+  shortBox().userType("5");
+  EXPECT_EQ(takeNotes(), Notes());
+}
+
+TEST_F(TextBoxTest, TypingStopsWhereAHandlerTakesTheBoxAway) {
+  box().Text = "";
+  box().Change = [this] {
+    if (box().Text == "ab") box().Visible = false;
+  };
+  box().userType("abcd");
+  EXPECT_EQ(box().Text.get(), "ab");
+}
+
+TEST_F(TextBoxTest, TypingWhoseLastKeyTakesTheBoxAwayWasDone) {
+  box().Text = "";
+  box().Change = [this] { box().Visible = false; };
+  EXPECT_TRUE(box().userType("a"));
+  EXPECT_EQ(box().Text.get(), "a");
+}
+
+TEST_F(TextBoxTest, TypingStopsWhereAHandlerClosesTheWindow) {
+  box().Text = "";
+  box().Change = [this] { window.Unload(); };
+  box().userType("abcd");
+  EXPECT_FALSE(window.isLoaded());
+}
+
+TEST_F(TextBoxTest, TheCaretStaysWithinTheText) {
+  box().Text = "12345";
+  box().SelStart = 3;
+  EXPECT_EQ(box().SelStart.get(), 3);
+  box().SelStart = 99;
+  EXPECT_EQ(box().SelStart.get(), 5);
+  box().SelStart = -1;
+  EXPECT_EQ(box().SelStart.get(), 0);
+}
+
+TEST_F(TextBoxTest, TextsOfEveryByteAreKept) {
+  std::string bytes;
+  for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
+  box().Text = bytes;
+  EXPECT_EQ(box().Text.get(), bytes);
+}
+
+}  // namespace
+}  // namespace gsm

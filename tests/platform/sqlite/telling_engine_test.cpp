@@ -1,0 +1,79 @@
+#include "platform/sqlite/telling_engine.h"
+
+#include "tests/platform/sqlite/book_fixture.h"
+
+namespace gsm {
+namespace {
+
+class Telling : public BookTest {
+ protected:
+  Failed open(const std::string& name) {
+    return failureOf([&] { engine_.OpenDatabase(folder_.path() / name); });
+  }
+
+  SqliteEngine plain_;
+  std::vector<std::string> told_;
+  TellingEngine engine_{plain_, [this](const std::string& text) { told_.push_back(text); }};
+};
+
+TEST_F(Telling, AFileThatOpensIsNotToldOf) {
+  EXPECT_EQ(open("phonebook.mdb").number, 0);
+  EXPECT_EQ(told_, std::vector<std::string>{});
+}
+
+TEST_F(Telling, TheFirstFailureIsToldOfWithTheFileAndWhatToDo) {
+  const Failed failed = open("none.mdb");
+  EXPECT_EQ(failed.number, 3024);
+  const std::string path = (folder_.path() / "none.mdb").string();
+  ASSERT_EQ(told_.size(), 1u);
+  EXPECT_EQ(told_[0], "The phone book " + path + " can't be used: Could not find file '" + path +
+                          "'. What is wanted there is a phone book that can be written to: an "
+                          "empty one comes with the program, phonebook-import brings one over "
+                          "from an old machine.");
+}
+
+TEST_F(Telling, LaterFailuresAreOnlyFailures) {
+  open("none.mdb");
+  EXPECT_EQ(open("none.mdb").number, 3024);
+  EXPECT_EQ(open("other.mdb").number, 3024);
+  EXPECT_EQ(open("phonebook.mdb").number, 0);
+  EXPECT_EQ(told_.size(), 1u);
+}
+
+TEST_F(Telling, AFileThatIsNoDatabaseIsToldOf) {
+  folder_.write("text.mdb", std::string(5000, 'x'));
+  EXPECT_EQ(open("text.mdb").number, 3343);
+  EXPECT_EQ(told_.size(), 1u);
+}
+
+TEST_F(Telling, AFileWithoutItsTablesIsToldOfOnce) {
+  folder_.write("empty.mdb", "");  // an empty file is a database without tables
+  const auto database = engine_.OpenDatabase(folder_.path() / "empty.mdb");
+  EXPECT_EQ(told_, std::vector<std::string>{});
+  EXPECT_EQ(failureOf([&] { database->openRecordSet("DATA"); }).number, 3078);
+  ASSERT_EQ(told_.size(), 1u);
+  EXPECT_NE(told_[0].find((folder_.path() / "empty.mdb").string()), std::string::npos);
+  EXPECT_NE(told_[0].find("'DATA'"), std::string::npos);
+  failureOf([&] { database->openRecordSet("DATA"); });
+  EXPECT_EQ(told_.size(), 1u);
+}
+
+TEST_F(Telling, AStatementThatFailsIsToldOf) {
+  const auto database = engine_.OpenDatabase(folder_.path() / "phonebook.mdb");
+  database->Execute("delete from data");
+  EXPECT_EQ(told_, std::vector<std::string>{});
+  EXPECT_NE(failureOf([&] { database->Execute("delete from nothing"); }).number, 0);
+  EXPECT_EQ(told_.size(), 1u);
+}
+
+TEST_F(Telling, ItsDatabasesWorkAsTheOnesBehindThem) {
+  const auto set = engine_.OpenDatabase(folder_.path() / "phonebook.mdb")->openRecordSet("DATA");
+  set->AddNew();
+  set->setField("Name", "ANNA");
+  set->Update();
+  const auto again = plain_.OpenDatabase(folder_.path() / "phonebook.mdb")->openRecordSet("DATA");
+  ASSERT_FALSE(again->isEof());
+}
+
+}  // namespace
+}  // namespace gsm

@@ -1,0 +1,193 @@
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "controls/controls.h"
+#include "tests/support/desktop/desktop_fixture.h"
+
+namespace gsm {
+namespace {
+
+class ListWindow : public Window {
+ public:
+  using Window::Window;
+  ComboBox Combo1{*this, "Combo1"};
+  ComboBox cboPort{*this, "cboPort", {.Style = ComboStyle::dropDownList}};
+  ListBox List1{*this, "List1"};
+};
+
+class ListViewsTest : public FormTest {
+ protected:
+  ListViewsTest() {
+    bind(window_);
+    for (const char* item : {"one", "two", "three"}) {
+      window_.Combo1.AddItem(item);
+      window_.cboPort.AddItem(item);
+      window_.List1.AddItem(item);
+    }
+  }
+
+  ListWindow window_{platform(), "ListWindow"};
+  QComboBox& combo_ = put<QComboBox>("Combo1");
+  QComboBox& drop_ = put<QComboBox>("cboPort");
+  QListWidget& list_ = put<QListWidget>("List1");
+};
+
+void pick(QComboBox& combo, int index) {
+  combo.setCurrentIndex(index);
+  emit combo.activated(index);
+}
+
+TEST_F(ListViewsTest, ShowTheItems) {
+  EXPECT_EQ(combo_.count(), 3);
+  EXPECT_EQ(drop_.itemText(2), "three");
+  EXPECT_EQ(list_.item(1)->text(), "two");
+}
+
+TEST_F(ListViewsTest, SelectNothingOfTheirOwnAccord) {
+  EXPECT_EQ(combo_.currentIndex(), -1);
+  EXPECT_EQ(combo_.currentText(), "");
+  EXPECT_EQ(drop_.currentIndex(), -1);
+  EXPECT_TRUE(list_.selectedItems().isEmpty());
+}
+
+TEST_F(ListViewsTest, ShowWhatHandlersSelect) {
+  window_.Combo1.ListIndex = 1;
+  window_.cboPort.ListIndex = 2;
+  window_.List1.ListIndex = 0;
+  EXPECT_EQ(combo_.currentText(), "two");
+  EXPECT_EQ(drop_.currentText(), "three");
+  EXPECT_TRUE(list_.item(0)->isSelected());
+  window_.cboPort.ListIndex = -1;
+  window_.List1.ListIndex = -1;
+  EXPECT_EQ(drop_.currentIndex(), -1);
+  EXPECT_TRUE(list_.selectedItems().isEmpty());
+}
+
+TEST_F(ListViewsTest, ShowTheTextOfACombo) {
+  window_.Combo1.Text = "other";
+  EXPECT_EQ(combo_.currentText(), "other");
+  EXPECT_EQ(combo_.currentIndex(), -1);
+  window_.Combo1.Text = "two";
+  EXPECT_EQ(combo_.currentIndex(), 1);
+}
+
+TEST_F(ListViewsTest, ClearingEmptiesListAndText) {
+  window_.Combo1.Text = "other";
+  window_.Combo1.Clear();
+  window_.List1.Clear();
+  EXPECT_EQ(combo_.count(), 0);
+  EXPECT_EQ(combo_.currentText(), "");
+  EXPECT_EQ(list_.count(), 0);
+}
+
+TEST_F(ListViewsTest, PickingAnItemIsQueuedAndClicks) {
+  int clicks = 0;
+  window_.Combo1.Click = [&] { ++clicks; };
+  pick(combo_, 2);
+  EXPECT_EQ(clicks, 0);
+  settle();
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(window_.Combo1.ListIndex.peek(), 2);
+  EXPECT_EQ(window_.Combo1.Text.peek(), "three");
+  EXPECT_EQ(combo_.currentText(), "three");
+}
+
+TEST_F(ListViewsTest, PickingTheSelectedItemClicksAgain) {
+  window_.cboPort.ListIndex = 1;
+  int clicks = 0;
+  window_.cboPort.Click = [&] { ++clicks; };
+  pick(drop_, 1);
+  settle();
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ListViewsTest, TypingSelectsNothingAndDoesntClick) {
+  window_.Combo1.ListIndex = 0;
+  int clicks = 0;
+  window_.Combo1.Click = [&] { ++clicks; };
+  combo_.lineEdit()->end(false);
+  type(*combo_.lineEdit(), "x");
+  settle();
+  EXPECT_EQ(window_.Combo1.Text.peek(), "onex");
+  EXPECT_EQ(window_.Combo1.ListIndex.peek(), -1);
+  EXPECT_EQ(combo_.currentText(), "onex");
+  EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(ListViewsTest, TypingAnItemsTextDoesntPickIt) {
+  int clicks = 0;
+  window_.Combo1.Click = [&] { ++clicks; };
+  type(*combo_.lineEdit(), "two");
+  press(*combo_.lineEdit(), Qt::Key_Return, "\r");
+  emit combo_.lineEdit()->editingFinished();
+  settle();
+  EXPECT_EQ(window_.Combo1.Text.peek(), "two");
+  EXPECT_EQ(window_.Combo1.ListIndex.peek(), -1);
+  EXPECT_EQ(clicks, 0);
+  EXPECT_EQ(combo_.count(), 3) << "and doesn't become another item";
+}
+
+TEST_F(ListViewsTest, NoItemFinishesWhatIsTyped) {
+  type(*combo_.lineEdit(), "th");
+  settle();
+  EXPECT_EQ(combo_.currentText(), "th");
+}
+
+TEST_F(ListViewsTest, TypingKeepsTheCaretWhereItIs) {
+  window_.Combo1.ListIndex = 2;
+  combo_.lineEdit()->setCursorPosition(2);
+  type(*combo_.lineEdit(), "x");
+  settle();
+  EXPECT_EQ(combo_.currentText(), "thxree");
+  EXPECT_EQ(combo_.lineEdit()->cursorPosition(), 3);
+}
+
+TEST_F(ListViewsTest, TheUserPicksAnItemOfAList) {
+  int clicks = 0;
+  window_.List1.Click = [&] { ++clicks; };
+  const QPoint at = list_.visualItemRect(list_.item(1)).center();
+  click(*list_.viewport(), at);
+  EXPECT_EQ(clicks, 0);
+  settle();
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(window_.List1.ListIndex.peek(), 1);
+  click(*list_.viewport(), at);
+  settle();
+  EXPECT_EQ(clicks, 2) << "the selected one can be picked again";
+}
+
+TEST_F(ListViewsTest, TheFocusAlonePicksNothing) {
+  int clicks = 0;
+  window_.List1.Click = [&] { ++clicks; };
+  list_.setFocus(Qt::TabFocusReason);
+  settle();
+  EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(ListViewsTest, APickThatThePanelDoesntTakeIsUndone) {
+  window_.cboPort.ListIndex = 0;
+  pick(drop_, 2);
+  window_.cboPort.Enabled = false;
+  settle();
+  EXPECT_EQ(drop_.currentIndex(), 0);
+}
+
+TEST_F(ListViewsTest, ItemsHaveTheirTips) {
+  window_.cboPort.AddItem("four", "/dev/ttyUSB0");
+  EXPECT_EQ(drop_.itemData(0, Qt::ToolTipRole).toString(), "");
+  EXPECT_EQ(drop_.itemData(3, Qt::ToolTipRole).toString(), "<qt>/dev/ttyUSB0</qt>");
+  EXPECT_EQ(drop_.toolTip(), "");
+  window_.cboPort.ListIndex = 3;
+  EXPECT_EQ(drop_.toolTip(), "<qt>/dev/ttyUSB0</qt>") << "the tip of the one that is selected";
+  window_.List1.AddItem("five", "<b>");
+  EXPECT_EQ(list_.item(3)->toolTip(), "<qt>&lt;b&gt;</qt>");
+}
+
+TEST_F(ListViewsTest, ItemsAreNeitherMarkupNorMnemonics) {
+  window_.List1.AddItem("<b>&x</b>");
+  EXPECT_EQ(list_.item(3)->text(), "<b>&x</b>");
+}
+
+}  // namespace
+}  // namespace gsm

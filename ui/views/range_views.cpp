@@ -1,0 +1,51 @@
+#include "ui/views/range_views.h"
+
+#include <QSignalBlocker>
+
+#include "platform/qt/text_codec.h"
+#include "ui/views/screen_text.h"
+
+namespace gsm {
+
+SliderView::SliderView(Slider& control, QSlider& widget, const UserActions& actions)
+    : ViewOf(control, widget, actions) {
+  widget.setSingleStep(control.smallChange());
+  widget.setPageStep(control.largeChange());
+  connect(&widget, &QSlider::valueChanged, this,
+          [this] { this->actions().post([this] { return take(); }); });
+}
+
+// Takes over where the slider stands by now: while it is dragged, several moves may have been
+// queued, and the first to run takes them all.
+bool SliderView::take() {
+  const int value = widget_.value();
+  return value == control_.Value.peek() || control_.userMove(value);
+}
+
+void SliderView::show(PropertyId) {
+  const QSignalBlocker quiet(widget_);
+  widget_.setRange(control_.Min.peek(), control_.Max.peek());
+  widget_.setValue(control_.Value.peek());
+}
+
+TabView::TabView(TabStrip& control, QTabBar& widget, const UserActions& actions)
+    : ViewOf(control, widget, actions) {
+  while (widget.count() > 0) widget.removeTab(0);
+  for (const std::string& tab : control.tabs()) widget.addTab(withoutMnemonics(toQt(tab)));
+  connect(&widget, &QTabBar::currentChanged, this, [this](int index) { choose(index); });
+  // Comes before the tab is chosen, so a tab that is the chosen one now is clicked once more.
+  connect(&widget, &QTabBar::tabBarClicked, this, [this](int index) {
+    if (index >= 0 && index == widget_.currentIndex()) choose(index);
+  });
+}
+
+void TabView::choose(int index) {
+  actions().post([this, index] { return control_.userTab(index + 1); });
+}
+
+void TabView::show(PropertyId) {
+  const QSignalBlocker quiet(widget_);
+  widget_.setCurrentIndex(control_.Value.peek() - 1);
+}
+
+}  // namespace gsm
