@@ -1,12 +1,14 @@
+#include "link/pause.h"
+
 #include <algorithm>
 
-#include "panel/form1.h"
+#include "platform/clock.h"
+#include "platform/event_loop.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {
 
-void Form1::Pause(float seconds) {
-  Clock& clock = platform().clock;
+void pause(Clock& clock, EventLoop& loop, float seconds) {
   const float start = clock.secondsSinceMidnight();
   // When to look at the clock again if nothing happens before: at the end, or at midnight. The
   // clock's single precision can lag a little behind the time line, and then another look follows
@@ -17,7 +19,7 @@ void Form1::Pause(float seconds) {
 
   while (clock.secondsSinceMidnight() - start < seconds) {
     if (wake <= clock.now()) wake = clock.now() + kNextLook;
-    platform().loop.pass(wake);
+    loop.pass(wake);
     if (clock.secondsSinceMidnight() < start) throw failure::overflow();  // midnight has passed
   }
 }

@@ -11,6 +11,8 @@ FeatureWindow::FeatureWindow(Panel& panel, std::string name, WindowDesign design
       panel_(panel),
       onClose_(onClose) {}
 
+Conversation& FeatureWindow::modem() { return panel_.form1.modem; }
+
 void FeatureWindow::Form_Resize() { followWith(panel_.form7, WindowState); }
 
 void FeatureWindow::Form_Unload() {

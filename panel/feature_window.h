@@ -5,6 +5,7 @@
 
 namespace gsm {
 
+class Conversation;
 struct Panel;
 
 /// A window that a button of the main window opens in its own place: the status window follows it
@@ -19,6 +20,9 @@ class FeatureWindow : public Window {
 
   void Form_Resize() override;
   void Form_Unload() override;
+
+  /// The talk with the modem.
+  Conversation& modem();
 
   Panel& panel_;
 

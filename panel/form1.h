@@ -7,6 +7,7 @@
 #include "controls/controls.h"
 #include "controls/serial_control.h"
 #include "controls/window.h"
+#include "link/conversation.h"
 #include "link/text.h"
 #include "link/transcript.h"
 
@@ -25,14 +26,13 @@ class Form1 : public Window {
 
   /// The wait that keeps the event loop running: returns when the clock has gone on by `seconds`,
   /// or at once when that is zero or less. Fails with `overflow` when midnight passes.
-  void Pause(float seconds);
+  void Pause(float seconds) { modem.pause(seconds); }
 
-  /// Writes `command` with a carriage return to the port.
-  void send(std::string_view command);
-  /// An exchange: clears the transcript, sends `command`, and waits `seconds`.
-  void exchange(std::string_view command, float seconds = 1);
-  /// An exchange on top of what the transcript holds.
-  void exchangeOnTop(std::string_view command, float seconds = 1);
+  void send(std::string_view command) { modem.send(command); }
+  void exchange(std::string_view command, float seconds = 1) { modem.exchange(command, seconds); }
+  void exchangeOnTop(std::string_view command, float seconds = 1) {
+    modem.exchangeOnTop(command, seconds);
+  }
 
   /// Everything that happens on the line: takes in what was received and routes it.
   void OnComm();
@@ -198,6 +198,8 @@ class Form1 : public Window {
   TextBox Text3{*this, "Text3", {.Text = "0"}};
   ComboBox Combo1{*this, "Combo1"};  // the ports to sweep
   ComboBox Combo2{*this, "Combo2"};  // the free ports
+
+  Conversation modem{platform(), MSComm1, Text1};
 
   Timer Timer1{*this, "Timer1", {.Interval = 1000}};
   Timer Timer2{*this, "Timer2", {.Interval = 2000, .Enabled = false}};

@@ -1,6 +1,3 @@
-#include <array>
-#include <string_view>
-
 #include "audio/form6.h"
 #include "modem/form2.h"
 #include "module/form16.h"
@@ -12,37 +9,10 @@
 #include "services/form12.h"
 #include "settings/form14.h"
 #include "settings/form15.h"
+#include "settings/line_options.h"
 #include "sms/form8.h"
 
 namespace gsm {
-namespace {
-
-// A digit of the modem's profile and the option of the settings window that it selects.
-struct ProfileOption {
-  std::string_view digit;
-  OptionButton Form15::*option;
-};
-constexpr std::array kFlowToHost = {
-    ProfileOption{"0", &Form15::Option13}, ProfileOption{"1", &Form15::Option14},
-    ProfileOption{"2", &Form15::Option15}, ProfileOption{"3", &Form15::Option16}};
-constexpr std::array kFlowToModem = {ProfileOption{"0", &Form15::Option17},
-                                     ProfileOption{"1", &Form15::Option18},
-                                     ProfileOption{"2", &Form15::Option19}};
-constexpr std::array kCarrier = {ProfileOption{"0", &Form15::Option22},
-                                 ProfileOption{"1", &Form15::Option23}};
-// By the digit of "&C", which stands in for that of "&D" here.
-constexpr std::array kTerminalReady = {ProfileOption{"1", &Form15::Option25},
-                                       ProfileOption{"2", &Form15::Option26}};
-
-template <class Options>
-void select(const Options& options, std::string_view digit, Form15& window) {
-  for (const ProfileOption& each : options) {
-    if (each.digit == digit) (window.*each.option).Value = true;
-  }
-}
-
-}  // namespace
-
 void Form1::swapTo(Window& window) {
   window.Show();
   Hide();
@@ -141,8 +111,8 @@ void Form1::Command11_Click() try {
   Form15& window = panel_.form15;
   const Position flow = Text1.position("IFC:");
   if (flow != 0) {
-    select(kFlowToHost, Text1.slice(flow + 4, 1), window);
-    select(kFlowToModem, Text1.slice(flow + 6, 1), window);
+    selectOption<Form15>(window, kFlowToHost, Text1.slice(flow + 4, 1));
+    selectOption<Form15>(window, kFlowToModem, Text1.slice(flow + 6, 1));
   }
   ShowModemSpeed();
   ParseCharacterFraming();
@@ -151,14 +121,16 @@ void Form1::Command11_Click() try {
   const Position carrier = Text1.position("&C");
   if (carrier != 0) {
     carrierDigit = Text1.slice(carrier + 3, 1);
-    select(kCarrier, carrierDigit, window);
+    selectOption<Form15>(window, kCarrier, carrierDigit);
   }
   const Position terminalReady = Text1.position("&D");
   if (terminalReady != 0) {
-    if (Text1.slice(terminalReady + 3, 1) == "0") {
-      window.Option24.Value = true;
-    } else {
-      select(kTerminalReady, carrierDigit, window);
+    const std::string digit = Text1.slice(terminalReady + 3, 1);
+    if (digit == "0") {
+      selectOption<Form15>(window, kTerminalReady, digit);
+    } else if (carrierDigit != "0") {
+      // The digit of "&C" stands in for that of "&D" here.
+      selectOption<Form15>(window, kTerminalReady, carrierDigit);
     }
   }
   swapTo(window);

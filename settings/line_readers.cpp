@@ -7,51 +7,28 @@
 #include "panel/panel.h"
 #include "platform/runtime_failure.h"
 #include "settings/form15.h"
+#include "settings/line_options.h"
 
 namespace gsm {
 namespace {
 
 // In the order in which they are looked for: a modem at 57600 shows "600".
-constexpr std::array kSpeeds = {"9600", "115200", "19200", "300",   "600",
-                                "1200", "2400",   "4800",  "38400", "57600"};
+constexpr std::array kSpeedsToLookFor = {"9600", "115200", "19200", "300",   "600",
+                                         "1200", "2400",   "4800",  "38400", "57600"};
 
-// What a digit of "+ICF:" stands for: words for the panel, an option of the settings window.
-struct Choice {
-  std::string_view digit;
-  std::string_view words;
-  OptionButton Form15::*option;
-};
-constexpr std::array kFormats = {
-    Choice{"0", "Character Framing:Auto Detect", &Form15::Option1},
-    Choice{"1", "8 Data,2 Stop", &Form15::Option2},
-    Choice{"2", "8 Data,1 Parity,1 Stop", &Form15::Option3},
-    Choice{"3", "8 Data,1 Stop", &Form15::Option4},
-    Choice{"4", "7 Data,2 Stop", &Form15::Option5},
-    Choice{"5", "7 Data,1 Parity,1 Stop", &Form15::Option6},
-    Choice{"6", "7 Data,1 Stop", &Form15::Option7},
-};
-constexpr std::array kParities = {
-    Choice{"0", "Parity:Odd", &Form15::Option8},   Choice{"1", "Parity:Even", &Form15::Option9},
-    Choice{"2", "Parity:Mark", &Form15::Option10}, Choice{"3", "Parity:Space", &Form15::Option11},
-    Choice{"4", "Parity:None", &Form15::Option12},
-};
-
-// Selects the option of `digit`, if there is one, and returns its words.
-template <class Choices>
-std::string choose(const Choices& choices, std::string_view digit, Form15& window) {
-  const auto choice = std::find_if(choices.begin(), choices.end(),
-                                   [digit](const Choice& each) { return each.digit == digit; });
-  if (choice == choices.end()) return {};
-  (window.*choice->option).Value = true;
-  return std::string(choice->words);
+// Sets the option of `code`, if there is one, and returns its words.
+std::string choose(std::span<const OptionCode<Form15>> options, std::string_view code,
+                   Form15& window) {
+  const auto* chosen = selectOption<Form15>(window, options, code);
+  return chosen == nullptr ? std::string() : std::string(chosen->words);
 }
 
 }  // namespace
 
 void Form1::ShowModemSpeed() try {
-  const auto speed = std::find_if(kSpeeds.begin(), kSpeeds.end(),
+  const auto speed = std::find_if(kSpeedsToLookFor.begin(), kSpeedsToLookFor.end(),
                                   [this](const char* each) { return Text1.holds(each); });
-  if (speed == kSpeeds.end()) return;
+  if (speed == kSpeedsToLookFor.end()) return;
   Label6.Caption = *speed;
   panel_.form15.Combo1.Text = *speed;
 } catch (const RuntimeFailure&) {

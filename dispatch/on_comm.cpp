@@ -3,18 +3,6 @@
 
 namespace gsm {
 
-void Form1::send(std::string_view command) { MSComm1.Output = std::string(command) + "\r"; }
-
-void Form1::exchange(std::string_view command, float seconds) {
-  Text1.clear();
-  exchangeOnTop(command, seconds);
-}
-
-void Form1::exchangeOnTop(std::string_view command, float seconds) {
-  send(command);
-  Pause(seconds);
-}
-
 void Form1::OnComm() try {
   std::string received;
   if (MSComm1.CommEvent == CommEvent::receive) received = MSComm1.Input();
