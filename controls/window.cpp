@@ -31,20 +31,28 @@ void Window::Hide() { Visible = false; }
 
 void Window::Unload() {
   if (!loaded_) return;
+  const int load = loads_;
   platform_.handlers.run([this] { Form_Unload(); });
+  // While Form_Unload waited, the window may have been closed once more. If it has come up anew
+  // since, it stays.
+  const bool cameUpAnew = loads_ != load && Visible.peek();
+  if (!loaded_ || cameUpAnew) return;
   for (Control* control : controls_) control->unloaded();
   Visible.store(false);
   loaded_ = false;
 }
 
 void Window::reference() const {
-  // Loading is what a reference does to a window, whether or not the caller may change it.
-  if (!loaded_) const_cast<Window*>(this)->load();
+  // Loading is what a reference does to a window, whether or not the caller may change it. A window
+  // that is closed while its Form_Load waits is loaded once more: nobody may go on with one that
+  // isn't.
+  while (!loaded_) const_cast<Window*>(this)->load();
 }
 
 void Window::load() {
   restoreDesign();
   for (Control* control : controls_) control->restoreDesign();
+  ++loads_;
   loaded_ = true;  // before Form_Load, so that what it refers to doesn't load the window again
   for (Control* control : controls_) control->loaded();
   platform_.handlers.run([this] {

@@ -19,7 +19,9 @@ struct WindowDesign {
 
 /// A window. The object exists for the whole run; being loaded is a state. Any reference to a
 /// property of it or of its controls loads it: every control takes its design state, and
-/// `Form_Load` runs. Closing it runs `Form_Unload` and loses the state.
+/// `Form_Load` runs. Closing it runs `Form_Unload` and loses the state. Both may wait, and be
+/// overtaken by a closing: a reference ends with a loaded window all the same, and a window that is
+/// on view is loaded.
 class Window : public PropertyOwner {
  public:
   /// Enters itself into `platform`'s list of windows, for as long as it exists.
@@ -69,6 +71,7 @@ class Window : public PropertyOwner {
   Platform& platform_;
   std::vector<Control*> controls_;
   bool loaded_ = false;
+  int loads_ = 0;  // so far
 };
 
 /// The window of that name, or null.

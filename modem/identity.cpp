@@ -46,8 +46,7 @@ void Form1::ShowRevision(Position echo, Position ok) try {
   files.printLine(file, window.Label3.Caption);
   files.printLine(file, window.Label5.Caption);
   files.printLine(file, window.Label6.Caption);
-  // Start-up goes on reading its own file, so that a port accepted there is never saved.
-  files.closeAllBut(startUpFiles_);
+  files.closeAll();
 } catch (const RuntimeFailure&) {
   // Ends silently.
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <set>
 #include <string>
 #include <string_view>
 
@@ -236,7 +235,7 @@ class Form1 : public Window {
   void swapTo(Window& window);
 
   Panel& panel_;
-  std::set<int> startUpFiles_;  // the numbers under which start-up reads its file now
+  int runningStartUps_ = 0;  // on the handler stack now
   int codeVerdicts_ = 0;
 };
 

@@ -87,10 +87,8 @@ void Files::printLine(int number, const std::string& text) {
   if (!stream) throw failure::diskFull();
 }
 
-void Files::closeAll() { files_.clear(); }
+void Files::close(int number) { files_.erase(number); }
 
-void Files::closeAllBut(const std::set<int>& kept) {
-  std::erase_if(files_, [&kept](const auto& file) { return !kept.contains(file.first); });
-}
+void Files::closeAll() { files_.clear(); }
 
 }  // namespace gsm

@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <set>
 #include <string>
 
 namespace gsm {
@@ -44,10 +43,10 @@ class Files {
   /// `diskFull` when the text can't be kept.
   void printLine(int number, const std::string& text);
 
-  void closeAll();
+  /// Closes the file of that number; nothing when there is none.
+  void close(int number);
 
-  /// Closes all files but those of the numbers `kept`.
-  void closeAllBut(const std::set<int>& kept);
+  void closeAll();
 
  private:
   struct OpenFile {

@@ -17,20 +17,4 @@ class ScopedValue {
   const T old_;
 };
 
-/// Keeps a value in a set for as long as a scope lasts.
-template <class Set>
-class ScopedMember {
- public:
-  ScopedMember(Set& set, typename Set::value_type value) : set_(set), value_(value) {
-    set.insert(value);
-  }
-  ~ScopedMember() { set_.erase(value_); }
-  ScopedMember(const ScopedMember&) = delete;
-  ScopedMember& operator=(const ScopedMember&) = delete;
-
- private:
-  Set& set_;
-  const typename Set::value_type value_;
-};
-
 }  // namespace gsm

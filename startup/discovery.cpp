@@ -82,10 +82,10 @@ void Form1::AcceptPort() try {
   CheckSimPin();
   panel_.form7.Show();
   Files& files = platform().files;
-  // During start-up the number belongs to the reading of this very file, even when a start-up
-  // within it has closed all files: nothing is saved then.
+  // While a start-up runs the number belongs to the reading of this very file, whoever may have
+  // closed it meanwhile: nothing is saved then.
   constexpr int kFileNumber = 1;
-  if (startUpFiles_.contains(kFileNumber)) throw failure::fileAlreadyOpen();
+  if (runningStartUps_ > 0) throw failure::fileAlreadyOpen();
   files.openForOutput(kFileNumber, "COM.txt");
   files.printLine(kFileNumber, Label3.Caption + " " + std::to_string(MSComm1.CommPort));
   files.closeAll();

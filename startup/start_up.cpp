@@ -6,8 +6,25 @@
 #include "platform/scoped_value.h"
 
 namespace gsm {
+namespace {
+
+// Closes a file at the end of a scope, however it is left.
+class FileCloser {
+ public:
+  FileCloser(Files& files, int number) : files_(files), number_(number) {}
+  ~FileCloser() { files_.close(number_); }
+  FileCloser(const FileCloser&) = delete;
+  FileCloser& operator=(const FileCloser&) = delete;
+
+ private:
+  Files& files_;
+  const int number_;
+};
+
+}  // namespace
 
 void Form1::Form_Load() {
+  const ScopedValue running(runningStartUps_, runningStartUps_ + 1);
   try {
     startFromFile();
   } catch (const RuntimeFailure& failure) {
@@ -34,7 +51,7 @@ void Form1::startFromFile() {
 
   const int file = files.freeFile();
   files.openForInput(file, "COM.txt");
-  const ScopedMember guard(startUpFiles_, file);
+  const FileCloser closer(files, file);
   // A port that is accepted closes all files, so that the next look at this one fails and ends the
   // load: after a hit no further line is read.
   while (!files.atEnd(file)) startFromLine(files.readLine(file));

@@ -215,25 +215,5 @@ TEST_F(ComFile, OfEightKilobytesOfNoiseIsSurvived) {
   }
 }
 
-TEST_F(ComFile, OfALoadThatEndedEarlyStaysOpenUntilThePortIsAcceptedOnce) {
-  layComFile("no-blank\r\n");
-  start();
-  settle();
-  const auto accept = [this] {
-    inPanel([this] {
-      form1().MSComm1.CommPort = 3;
-      form1().MSComm1.PortOpen = true;
-      form1().AcceptPort();
-      form1().MSComm1.PortOpen = false;
-    });
-    settle();
-  };
-  accept();
-  EXPECT_EQ(file("COM.txt"), "no-blank\r\n");
-  accept();
-  EXPECT_EQ(file("COM.txt"), "9600,N,8,1 3\r\n");
-  EXPECT_EQ(boxes(), Texts{});
-}
-
 }  // namespace
 }  // namespace gsm
