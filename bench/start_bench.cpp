@@ -4,8 +4,8 @@
 #include <benchmark/benchmark.h>
 
 #include "app/headless_panel.h"
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "tests/support/temporary_folder.h"
 
 namespace gsm {

@@ -5,11 +5,11 @@
 
 namespace gsm {
 
-void Form1::Timer1_Tick() { Label4.Caption = platform().clock.localTime().timeOfDay(); }
+void Form1::showTime() { Label4.Caption = platform().clock.localTime().timeOfDay(); }
 
 // The poll: takes the call prompt down when the call has gone, since no line says so when the
 // caller gives up silently. Nothing guards it against other handlers, and it clears nothing.
-void Form1::Timer2_Tick() try {
+void Form1::pollCall() try {
   exchangeOnTop("AT+CIND?");
   const Position key = Text1.position("+CIND:");
   if (Text1.holds("ERROR")) Timer2.Enabled = false;

@@ -7,7 +7,7 @@
 namespace gsm {
 
 Form10::Form10(Panel& panel) : Window(panel.platform, "Form10"), panel_(panel) {
-  Command1.Click = [this] { Command1_Click(); };
+  Command1.Click = [this] { sendCode(); };
 }
 
 void Form10::Form_Load() { platform().files.changeToProgramFolder(); }
@@ -19,7 +19,7 @@ void Form10::showPinForm() {
   Text2.Visible = false;
 }
 
-void Form10::Command1_Click() try {
+void Form10::sendCode() try {
   const bool pin = Label1.Visible && Text1.Visible;
   if (pin && !Label2.Visible && !Text2.Visible) {
     sendPin();

@@ -28,7 +28,7 @@ class Form10 : public Window {
   void Form_Load() override;
 
  private:
-  void Command1_Click();
+  void sendCode();
   void sendPin();
   void sendPuk();
 

@@ -25,7 +25,7 @@ class Form2 : public FeatureWindow {
   void Form_Load() override;
 
  private:
-  void Command1_Click();
+  void readModelFile();
 };
 
 }  // namespace gsm

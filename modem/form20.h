@@ -16,7 +16,7 @@ class Form20 : public Window {
   Timer Timer1{*this, "Timer1", {.Interval = 50000, .Enabled = false}};
 
  private:
-  void Timer1_Tick();
+  void comeUp();
 
   Panel& panel_;
 };

@@ -1,3 +1,5 @@
+#include "modem/identity.h"
+
 #include "modem/form2.h"
 #include "panel/form1.h"
 #include "panel/panel.h"
@@ -6,14 +8,14 @@
 namespace gsm {
 
 // The reply to "AT+CGSN": the number stands behind the echo, its carriage return, and a line end.
-void Form1::takeImei(Position echo) {
-  panel_.form2.Label2.Caption = "IMEI: ";
-  panel_.form2.Label3.Caption = Text1.slice(echo + 10, 15);
+void takeImei(const Panel& panel, Position echo) {
+  panel.form2.Label2.Caption = "IMEI: ";
+  panel.form2.Label3.Caption = panel.form1.modem.slice(echo + 10, 15);
 }
 
 void Form1::ShowImei(Position echo) try {
-  takeImei(echo);
-  Text1.clear();
+  takeImei(panel_, echo);
+  modem.clear();
 } catch (const RuntimeFailure& failure) {
   platform().boxes.show(failure.description());
 }
@@ -25,8 +27,8 @@ void Form1::ShowManufacturer(Position echo, Position ok) try {
   window.Label5.Visible = true;
   window.Label6.Visible = true;
   window.Label4.Caption = Form2::kModelHeading;
-  window.Label5.Caption = Text1.slice(echo + 8, ok - 9);
-  Text1.clear();
+  window.Label5.Caption = modem.slice(echo + 8, ok - 9);
+  modem.clear();
 } catch (const RuntimeFailure&) {
   // Ends silently.
 }
@@ -37,8 +39,8 @@ void Form1::ShowRevision(Position echo, Position ok) try {
   Form2& window = panel_.form2;
   Label5.Caption = "";
   window.Label6.Visible = true;
-  window.Label6.Caption = Text1.slice(echo + 7, ok - 9);
-  Text1.clear();
+  window.Label6.Caption = modem.slice(echo + 7, ok - 9);
+  modem.clear();
 
   Files& files = platform().files;
   const int file = files.freeFile();

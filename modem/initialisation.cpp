@@ -2,8 +2,6 @@
 #include <string_view>
 
 #include "panel/form1.h"
-#include "panel/panel.h"
-#include "phonebook/form5.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {
@@ -47,8 +45,8 @@ const Row* rowAt(int Row::*order, int place) {
 
 void runRow(Form1& form, const Row& row) {
   if (!row.command.empty()) {
-    if (row.clear) form.Text1.clear();
-    form.exchangeOnTop(row.command);
+    if (row.clear) form.modem.clear();
+    form.modem.exchangeOnTop(row.command);
   }
   if (!row.log.empty()) form.List1.AddItem(std::string(row.log));
   if (row.afterwards != nullptr) (form.*row.afterwards)();
@@ -71,15 +69,6 @@ void Form1::InitialiseModemNoSim() try {
   runSequence(*this, &Row::reduced);
 } catch (const RuntimeFailure&) {
   // Ends silently.
-}
-
-// The reply to "ATS0?" is three digits behind the echo and a line end.
-void Form1::showAutoAnswer() {
-  const Position echo = Text1.position("ATS0?");
-  if (echo == 0 || !Text1.holds("OK")) return;
-  const bool byHand = Text1.slice(echo + 8, 3) == "000";
-  panel_.form5.Command1.Enabled = byHand;
-  panel_.form5.Label2.Caption = byHand ? "" : "AutoAnswer Enabled";
 }
 
 }  // namespace gsm

@@ -4,15 +4,53 @@
 #include "platform/runtime_failure.h"
 
 namespace gsm {
+namespace {
+
+void acceptPin(Form1& form, Form10& prompt) {
+  form.List1.AddItem("PIN Accepted");
+  prompt.Hide();
+  form.modem.clear();
+  form.InitialiseModem();
+}
+
+void refusePin(Form1& form, Form10& prompt) {
+  prompt.showPinForm();
+  form.List1.AddItem("Invalid PIN Entered");
+  form.modem.clear();
+  TextBox& refusals = form.Text2;
+  refusals.Text = std::to_string(wholeNumber(refusals.Text.get()) + 1);
+  prompt.Show();
+  if (wholeNumber(refusals.Text.get()) > 2) {
+    form.List1.AddItem("Invalid PIN Entered 3Times.GET PUK Number");
+    form.platform().boxes.show("Invalid PIN Entered.GET PUK Number And TRY LAter", "GSM");
+    form.platform().program.end();
+  }
+}
+
+void acceptPuk(Form1& form, Form10& prompt) {
+  form.List1.AddItem("PIN,PUK Accepted");
+  prompt.Hide();
+  form.InitialiseModem();
+  form.modem.clear();
+}
+
+// Not counted, and the panel stays in PUK mode although the prompt falls back to the PIN.
+void refusePuk(Form1& form, Form10& prompt) {
+  form.List1.AddItem("Invalid PUK Entered ");
+  prompt.showPinForm();
+  form.modem.clear();
+}
+
+}  // namespace
 
 void Form1::CheckSimPin() try {
   Label5.Caption = "Please Wait...";
-  exchange("AT");
-  if (Text1.holds("OK")) {
+  modem.exchange("AT");
+  if (modem.holds("OK")) {
     List1.AddItem("Check SIM PIN");
-    exchange("AT+CPIN?");  // its reply is routed to HandlePinStatus during the wait
+    modem.exchange("AT+CPIN?");  // its reply is routed to HandlePinStatus during the wait
   }
-  if (Text1.holds("ERROR")) {
+  if (modem.holds("ERROR")) {
     List1.AddItem("SIM Not Found !.Insert SIM Properly");
     InitialiseModemNoSim();
     Frame5.Visible = false;
@@ -30,15 +68,15 @@ void Form1::CheckSimPin() try {
 
 void Form1::HandlePinStatus() {
   Form10& prompt = panel_.form10;
-  if (Text1.holds("READY")) {
-    Text1.clear();
+  if (modem.holds("READY")) {
+    modem.clear();
     InitialiseModem();
-  } else if (Text1.holds("SIM PIN")) {
+  } else if (modem.holds("SIM PIN")) {
     prompt.Show();
     prompt.showPinForm();
     Text2.Visible = true;
     Text3.Visible = false;
-  } else if (Text1.holds("SIM PUK")) {
+  } else if (modem.holds("SIM PUK")) {
     prompt.Show();
     prompt.Label1.Visible = true;
     prompt.Text1.Visible = true;
@@ -52,56 +90,23 @@ void Form1::HandlePinStatus() {
   }
 }
 
-// The visibility of two boxes that nobody sees tells which code was asked for.
+// The visibility of two boxes that nobody sees says which code was asked for.
 void Form1::HandlePinResult() try {
-  const bool ok = Text1.holds("OK");
-  const bool error = Text1.holds("ERROR");
+  Form10& prompt = panel_.form10;
+  const bool ok = modem.holds("OK");
+  const bool error = modem.holds("ERROR");
   const bool pinMode = Text2.Visible && !Text3.Visible;
   const bool pukMode = !Text2.Visible && Text3.Visible;
   if ((ok || error) && (pinMode || pukMode)) ++codeVerdicts_;
   if (pinMode) {
-    if (ok) acceptPin();
-    if (error) refusePin();
+    if (ok) acceptPin(*this, prompt);
+    if (error) refusePin(*this, prompt);
   } else if (pukMode) {
-    if (ok) acceptPuk();
-    if (error) refusePuk();
+    if (ok) acceptPuk(*this, prompt);
+    if (error) refusePuk(*this, prompt);
   }
 } catch (const RuntimeFailure&) {
   // Ends silently.
-}
-
-void Form1::acceptPin() {
-  List1.AddItem("PIN Accepted");
-  panel_.form10.Hide();
-  Text1.clear();
-  InitialiseModem();
-}
-
-void Form1::refusePin() {
-  panel_.form10.showPinForm();
-  List1.AddItem("Invalid PIN Entered");
-  Text1.clear();
-  Text2.Text = std::to_string(wholeNumber(Text2.Text.get()) + 1);
-  panel_.form10.Show();
-  if (wholeNumber(Text2.Text.get()) > 2) {
-    List1.AddItem("Invalid PIN Entered 3Times.GET PUK Number");
-    platform().boxes.show("Invalid PIN Entered.GET PUK Number And TRY LAter", "GSM");
-    platform().program.end();
-  }
-}
-
-void Form1::acceptPuk() {
-  List1.AddItem("PIN,PUK Accepted");
-  panel_.form10.Hide();
-  InitialiseModem();
-  Text1.clear();
-}
-
-// Not counted, and the panel stays in PUK mode although the prompt falls back to the PIN.
-void Form1::refusePuk() {
-  List1.AddItem("Invalid PUK Entered ");
-  panel_.form10.showPinForm();
-  Text1.clear();
 }
 
 }  // namespace gsm

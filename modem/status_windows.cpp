@@ -1,6 +1,5 @@
 #include "modem/form11.h"
 #include "modem/form20.h"
-#include "modem/form7.h"
 #include "panel/form1.h"
 #include "panel/panel.h"
 #include "platform/runtime_failure.h"
@@ -9,13 +8,11 @@ namespace gsm {
 
 Form11::Form11(Panel& panel) : Window(panel.platform, "Form11") {}
 
-Form7::Form7(Panel& panel) : Window(panel.platform, "Form7", {.Caption = "GSM-N/W"}) {}
-
 Form20::Form20(Panel& panel) : Window(panel.platform, "Form20"), panel_(panel) {
-  Timer1.Tick = [this] { Timer1_Tick(); };
+  Timer1.Tick = [this] { comeUp(); };
 }
 
-void Form20::Timer1_Tick() try {
+void Form20::comeUp() try {
   Show();
   panel_.form1.Pause(3);
   Hide();

@@ -1,7 +1,7 @@
 #include "panel/feature_window.h"
 
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "panel/panel.h"
 
 namespace gsm {

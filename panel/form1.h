@@ -52,7 +52,7 @@ class Form1 : public Window {
   void AcceptPort();
 
   /// "Port Settings->": lets the user choose the port, and probes the modem there.
-  void Command7_Click();
+  void choosePort();
 
   /// Whether the port is there, held or not.
   bool ComPortExists(int port);
@@ -75,8 +75,8 @@ class Form1 : public Window {
   /// `marked` sets the mark "--> " before the text; nothing asks for it.
   void ProcessResponse(const std::string& text, bool marked);
 
-  void Timer1_Tick();
-  void Timer2_Tick();
+  void showTime();
+  void pollCall();
 
   // What comes without a command; `key` is where its word stands in the transcript.
   void tellOfMessage(Position key);
@@ -128,18 +128,18 @@ class Form1 : public Window {
 
   // -- modem/: the panel's buttons ---------------------------------------------------------------
 
-  void Command1_Click();
-  void Command2_Click();
-  void Command3_Click();
-  void Command4_Click();
-  void Command5_Click();
-  void Command6_Click();
-  void Command8_Click();
-  void Command9_Click();
-  void Command10_Click();
-  void Command11_Click();
-  void Command12_Click();
-  void Command13_Click();
+  void openModel();
+  void openCalls();
+  void openMessages();
+  void openServices();
+  void openSecurity();
+  void openAudio();
+  void exit();
+  void refresh();
+  void openData();
+  void openModemSettings();
+  void openFeatures();
+  void restoreFactorySettings();
   /// Shows the log, empty.
   void ShowStartupPanel();
 
@@ -217,22 +217,11 @@ class Form1 : public Window {
   void sweepPorts();
   bool sweepSpeeds();
   void endProgram();
-  void choosePort();
 
   // Routing.
   void route();
   void showCaller(const std::string& number, const std::string& nameWords,
                   const std::string& numberWords);
-  void saveEntry(int location);
-
-  // The modem.
-  void takeImei(Position echo);
-  void acceptPin();
-  void refusePin();
-  void acceptPuk();
-  void refusePuk();
-  /// Shows `window` in this one's place.
-  void swapTo(Window& window);
 
   Panel& panel_;
   int runningStartUps_ = 0;  // on the handler stack now

@@ -1,91 +1,68 @@
-#include "audio/form6.h"
-#include "modem/form2.h"
-#include "module/form16.h"
+#include <string_view>
+
+#include "controls/window.h"
 #include "panel/form1.h"
-#include "panel/panel.h"
-#include "phonebook/form3.h"
 #include "platform/runtime_failure.h"
-#include "security/form9.h"
-#include "services/form12.h"
-#include "settings/form14.h"
-#include "settings/form15.h"
-#include "settings/line_options.h"
-#include "sms/form8.h"
 
 namespace gsm {
-void Form1::swapTo(Window& window) {
-  window.Show();
-  Hide();
+namespace {
+
+// Shows the window of that name in the main window's place.
+void swapTo(Form1& form, std::string_view window) {
+  windowNamed(form.platform(), window)->Show();
+  form.Hide();
 }
 
+}  // namespace
+
 // "&Model ".
-void Form1::Command1_Click() try {
+void Form1::openModel() try {
   Label1.Caption = MSComm1.PortOpen ? "Open" : "Closed";
   if (Label1.Caption != "Open") return;
-  exchange("AT");
-  if (!Text1.holds("OK")) {
+  modem.exchange("AT");
+  if (!modem.holds("OK")) {
     platform().boxes.show("Check If Modem Is Connected Properly.Set The CommPorts", "GSM");
     return;
   }
-  Text1.clear();
-  swapTo(panel_.form2);
+  modem.clear();
+  swapTo(*this, "Form2");
 } catch (const RuntimeFailure&) {
   // Ends silently.
 }
 
 // "&Voice Call". The main window stays on view.
-void Form1::Command2_Click() try {
-  exchange("AT");
-  if (!Text1.holds("OK")) return;
-  Text1.clear();
+void Form1::openCalls() try {
+  modem.exchange("AT");
+  if (!modem.holds("OK")) return;
+  modem.clear();
   Label5.Caption = "Please Wait.......";
-  panel_.form3.Show();
+  windowNamed(platform(), "Form3")->Show();
 } catch (const RuntimeFailure&) {
   // Ends silently.
 }
 
-// "&SMS". Without a trap, like all that have none below: a failure ends the program.
-void Form1::Command3_Click() {
-  Command3.BackColor = kButtonGrey;  // takes the mark of a new message off
-  Label5.Caption = "Please Wait...";
-  exchange("AT+CNMI?");
-  Form8& window = panel_.form8;
-  const Position key = Text1.position("+CNMI:");
-  const std::string report = key == 0 ? std::string{} : Text1.slice(key + 13, 1);
-  const bool error = Text1.holds("ERROR");
-  if (error || report == "0") {
-    window.Label6.Caption = "Status Report Disabled";
-    window.Option4.Value = true;
-  } else if (report == "1") {
-    window.Label6.Caption = "Status Report Enabled";
-    window.Option3.Value = true;
-  }
-  Text1.clear();
-  swapTo(window);
-  Label5.Caption = "";
-}
-
-// "&Supplementary Service ".
-void Form1::Command4_Click() {
+// "&Supplementary Service ". Without a trap, like all that have none below: a failure ends the
+// program.
+void Form1::openServices() {
   Label5.Caption = "Please Wait....";
   Hide();
-  panel_.form12.Show();
+  windowNamed(platform(), "Form12")->Show();
 }
 
 // "&Security".
-void Form1::Command5_Click() { swapTo(panel_.form9); }
+void Form1::openSecurity() { swapTo(*this, "Form9"); }
 
 // "&Call Control".
-void Form1::Command6_Click() {
+void Form1::openAudio() {
   Label5.Caption = "Please Wait...";
-  swapTo(panel_.form6);
+  swapTo(*this, "Form6");
 }
 
 // "&Exit".
-void Form1::Command8_Click() { endProgram(); }
+void Form1::exit() { endProgram(); }
 
 // "REFRESH".
-void Form1::Command9_Click() {
+void Form1::refresh() {
   ShowStartupPanel();
   if (MSComm1.PortOpen) {
     MSComm1.PortOpen = false;
@@ -103,54 +80,20 @@ void Form1::ShowStartupPanel() {
 }
 
 // "Data-Fax Setup".
-void Form1::Command10_Click() { swapTo(panel_.form14); }
-
-// "Modem Setting->".
-void Form1::Command11_Click() try {
-  exchange("AT&V");
-  Form15& window = panel_.form15;
-  const Position flow = Text1.position("IFC:");
-  if (flow != 0) {
-    selectOption<Form15>(window, kFlowToHost, Text1.slice(flow + 4, 1));
-    selectOption<Form15>(window, kFlowToModem, Text1.slice(flow + 6, 1));
-  }
-  ShowModemSpeed();
-  ParseCharacterFraming();
-
-  std::string carrierDigit;
-  const Position carrier = Text1.position("&C");
-  if (carrier != 0) {
-    carrierDigit = Text1.slice(carrier + 3, 1);
-    selectOption<Form15>(window, kCarrier, carrierDigit);
-  }
-  const Position terminalReady = Text1.position("&D");
-  if (terminalReady != 0) {
-    const std::string digit = Text1.slice(terminalReady + 3, 1);
-    if (digit == "0") {
-      selectOption<Form15>(window, kTerminalReady, digit);
-    } else if (carrierDigit != "0") {
-      // The digit of "&C" stands in for that of "&D" here.
-      selectOption<Form15>(window, kTerminalReady, carrierDigit);
-    }
-  }
-  swapTo(window);
-  Text1.clear();
-} catch (const RuntimeFailure&) {
-  // Ends silently.
-}
+void Form1::openData() { swapTo(*this, "Form14"); }
 
 // "Other Features".
-void Form1::Command12_Click() { swapTo(panel_.form16); }
+void Form1::openFeatures() { swapTo(*this, "Form16"); }
 
 // "Factory Settings".
-void Form1::Command13_Click() {
+void Form1::restoreFactorySettings() {
   if (!MSComm1.PortOpen) {
     Label5.Caption = "Port Not Open ";
     return;
   }
   Label5.Caption = "IniTializing To Factory Settings";
-  for (const char* command : {"AT&F", "AT+SPEAKER=1", "AT&W"}) exchange(command);
-  Text1.clear();
+  for (const char* command : {"AT&F", "AT+SPEAKER=1", "AT&W"}) modem.exchange(command);
+  modem.clear();
   Label5.Caption = "Restart in Process.Click Refresh ";
 }
 

@@ -4,6 +4,29 @@
 #include "platform/runtime_failure.h"
 
 namespace gsm {
+namespace {
+
+// +CPBR: 12,"112",129,"Emergency"
+void saveEntry(Conversation& modem, Form3& calls, int location) {
+  const std::string index = std::to_string(location);
+  modem.exchangeOnTop("AT+CPBR=" + index);
+  const Position comma = modem.position(",");
+  if (comma != 0) {
+    const std::string entry = modem.slice(comma + 1, 35);
+    const Position numberEnd = position(",", entry);
+    const std::string number = slice(entry, 2, numberEnd - 3);
+    if (!number.empty()) {
+      // From the last digit of the number's type on.
+      const std::string tail = slice(entry, numberEnd + 3, static_cast<int>(entry.size()) - 16);
+      const std::string name = before("\"", slice(tail, position(",", tail) + 2, 14));
+      calls.addRow(index, number, name);
+      calls.storeEntry(index, number, name);
+    }
+  }
+  modem.clear();
+}
+
+}  // namespace
 
 void Form1::SavePhoneBook() try {
   Form3& calls = panel_.form3;
@@ -14,9 +37,9 @@ void Form1::SavePhoneBook() try {
   book.reset();
 
   // +CPBS: "SM",8,10
-  const std::string behindUsed = Text1.slice(Text1.position("SM") + 4, 4);
+  const std::string behindUsed = modem.slice(modem.position("SM") + 4, 4);
   const std::string used = before(",", behindUsed);
-  const std::string counts = Text1.slice(Text1.position(",") + 1, 8);
+  const std::string counts = modem.slice(modem.position(",") + 1, 8);
   const std::string total = slice(counts, position(",", counts) + 1, 3);
   calls.Text2.Text = used;
   calls.Text4.Text = total;
@@ -27,36 +50,16 @@ void Form1::SavePhoneBook() try {
   details.setField("TotalIndex", total);
   details.setField("UsedIndex", used);
   details.Update();
-  Text1.clear();
+  modem.clear();
 
   // Locations 1 to the used count: entries behind a hole may lie above, and stay unread.
   const int last = wholeNumber(used);
-  for (int location = 1; location <= last; ++location) saveEntry(location);
+  for (int location = 1; location <= last; ++location) saveEntry(modem, calls, location);
   calls.Data1.Refresh();
   calls.Data2.Refresh();
   calls.Show();
 } catch (const RuntimeFailure&) {
   // Ends silently.
-}
-
-// +CPBR: 12,"112",129,"Emergency"
-void Form1::saveEntry(int location) {
-  const std::string index = std::to_string(location);
-  exchangeOnTop("AT+CPBR=" + index);
-  const Position comma = Text1.position(",");
-  if (comma != 0) {
-    const std::string entry = Text1.slice(comma + 1, 35);
-    const Position numberEnd = position(",", entry);
-    const std::string number = slice(entry, 2, numberEnd - 3);
-    if (!number.empty()) {
-      // From the last digit of the number's type on.
-      const std::string tail = slice(entry, numberEnd + 3, static_cast<int>(entry.size()) - 16);
-      const std::string name = before("\"", slice(tail, position(",", tail) + 2, 14));
-      panel_.form3.addRow(index, number, name);
-      panel_.form3.storeEntry(index, number, name);
-    }
-  }
-  Text1.clear();
 }
 
 }  // namespace gsm

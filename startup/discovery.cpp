@@ -1,7 +1,8 @@
 #include <array>
 
-#include "modem/form7.h"
+#include "modem/identity.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "panel/panel.h"
 #include "platform/runtime_failure.h"
 
@@ -34,7 +35,7 @@ void Form1::ScanForModem() {
       MSComm1.CommPort = wholeNumber(Combo1.Text.get());
       Label5.Caption = "Scanning Port  " + Combo1.Text;
       if (sweepSpeeds()) {
-        takeImei(Text1.position("AT+CGSN"));
+        takeImei(panel_, Text1.position("AT+CGSN"));
         ShowPortStatus();
         AcceptPort();
         Text1.clear();

@@ -1,3 +1,4 @@
+#include "modem/identity.h"
 #include "panel/form1.h"
 #include "panel/panel.h"
 #include "platform/runtime_failure.h"
@@ -5,11 +6,35 @@
 
 namespace gsm {
 
+namespace {
+
+void probeChosenPort(Form1& form, Panel& panel) {
+  panel.settings.CommSettings(&form.MSComm1, "Communications Port Settings");
+  while (panel.settings.isLoaded()) form.platform().loop.pass();
+  if (!form.MSComm1.PortOpen) return;
+
+  form.ShowPortStatus();
+  form.Show();
+  form.exchange("AT+CGSN");
+  if (!form.Text1.holds("OK")) {
+    form.Label5.Caption = "Check If Modem Is Connected Properly";
+    form.List1.AddItem("Check If Modem Is Connected Properly.");
+    return;
+  }
+  form.MSComm1.Settings = form.Label3.Caption.get();
+  takeImei(panel, form.Text1.position("AT+CGSN"));
+  form.ShowPortStatus();
+  form.AcceptPort();
+  form.Text1.clear();
+}
+
+}  // namespace
+
 // "Port Settings->". The only way by which a port gets saved.
-void Form1::Command7_Click() {
+void Form1::choosePort() {
   std::string description;
   try {
-    choosePort();
+    probeChosenPort(*this, panel_);
     return;
   } catch (const RuntimeFailure& failure) {
     description = failure.description();
@@ -20,26 +45,6 @@ void Form1::Command7_Click() {
   } else {
     platform().boxes.show(description);
   }
-}
-
-void Form1::choosePort() {
-  panel_.settings.CommSettings(&MSComm1, "Communications Port Settings");
-  while (panel_.settings.isLoaded()) platform().loop.pass();
-  if (!MSComm1.PortOpen) return;
-
-  ShowPortStatus();
-  Show();
-  exchange("AT+CGSN");
-  if (!Text1.holds("OK")) {
-    Label5.Caption = "Check If Modem Is Connected Properly";
-    List1.AddItem("Check If Modem Is Connected Properly.");
-    return;
-  }
-  MSComm1.Settings = Label3.Caption.get();
-  takeImei(Text1.position("AT+CGSN"));
-  ShowPortStatus();
-  AcceptPort();
-  Text1.clear();
 }
 
 }  // namespace gsm

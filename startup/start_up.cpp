@@ -1,6 +1,7 @@
-#include "modem/form7.h"
+#include "modem/identity.h"
 #include "panel/feature_window.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "panel/panel.h"
 #include "platform/runtime_failure.h"
 #include "platform/scoped_value.h"
@@ -92,7 +93,7 @@ void Form1::startFromSavedPort(const std::string& line) {
     return;
   }
   MSComm1.Settings = settings;
-  takeImei(Text1.position("AT+CGSN"));
+  takeImei(panel_, Text1.position("AT+CGSN"));
   ShowPortStatus();
   AcceptPort();
   Text1.clear();

@@ -4,8 +4,8 @@
 
 #include "modem/form10.h"
 #include "modem/form2.h"
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "phonebook/form3.h"
 #include "phonebook/form4.h"
 #include "phonebook/form5.h"

@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "app/windows.h"
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "phonebook/form5.h"
 #include "platform/qt/desktop.h"
 #include "platform/sqlite/phone_book_file.h"

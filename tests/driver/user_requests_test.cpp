@@ -1,8 +1,8 @@
 // What the user does, and what the user can't.
 
 #include "audio/form6.h"
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "tests/driver/driver_fixture.h"
 
 namespace gsm::driver {

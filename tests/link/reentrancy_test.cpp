@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "audio/form6.h"
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "tests/support/modem_bytes.h"
 #include "tests/support/open_port_test.h"
 #include "tests/support/routing_watch.h"

@@ -3,8 +3,8 @@
 #include <fstream>
 
 #include "modem/form2.h"
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "tests/support/healthy_modem_test.h"
 
 namespace gsm {

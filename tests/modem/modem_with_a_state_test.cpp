@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "modem/form2.h"
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "settings/form15.h"
 #include "simulator/host/simulated_modem.h"
 #include "sms/form8.h"

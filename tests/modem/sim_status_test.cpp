@@ -4,8 +4,8 @@
 
 #include "modem/form10.h"
 #include "modem/form20.h"
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "tests/support/healthy_modem_test.h"
 #include "tests/support/open_port_test.h"
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "modem/form7.h"
+#include "panel/form7.h"
 #include "tests/support/routing_test.h"
 
 namespace gsm {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "phonebook/form4.h"
 #include "tests/phonebook/download_test.h"
 #include "tests/support/property_watch.h"

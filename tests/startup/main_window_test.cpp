@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "tests/support/modem_bytes.h"
 #include "tests/support/open_port_test.h"
 

@@ -2,8 +2,8 @@
 
 #include "modem/form10.h"
 #include "modem/form2.h"
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "tests/startup/port_settings_test.h"
 #include "tests/support/property_watch.h"
 

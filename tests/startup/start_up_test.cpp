@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "modem/form2.h"
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "tests/support/modem_bytes.h"
 #include "tests/support/panel_fixture.h"
 #include "tests/support/property_watch.h"

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "audio/form6.h"
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "tests/support/open_port_test.h"
 
 namespace gsm {

@@ -7,8 +7,8 @@
 
 #include "modem/form10.h"
 #include "modem/form2.h"
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "simulator/host/simulated_modem.h"
 #include "tests/support/panel_fixture.h"
 

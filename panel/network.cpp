@@ -2,8 +2,8 @@
 #include <string_view>
 
 #include "link/pair_reply.h"
-#include "modem/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "panel/panel.h"
 #include "platform/runtime_failure.h"
 
@@ -41,10 +41,10 @@ void Form1::networkset() try {
   window.Show();
   window.Label4.Caption = "";
   window.Label5.Caption = "";
-  exchangeOnTop("AT");
-  if (!Text1.holds("OK")) return;
-  exchange("AT+CSQ");         // its reply is routed to showSignal during the wait,
-  exchangeOnTop("AT+CREG?");  // and this one to showRegistration
+  modem.exchangeOnTop("AT");
+  if (!modem.holds("OK")) return;
+  modem.exchange("AT+CSQ");         // its reply is routed to showSignal during the wait,
+  modem.exchangeOnTop("AT+CREG?");  // and this one to showRegistration
 } catch (const RuntimeFailure&) {
   // Ends silently.
 }
