@@ -57,7 +57,7 @@ TEST(MessageConsole, MessagesShowsTheCards) {
 
 TEST(MessageConsole, HelpNamesTheCommandsThatFollowTheStandardAlone) {
   EXPECT_TRUE(Bench().modem.console("help").ends_with(
-      "\nanswered by the AT standard alone: AT+CSCA AT+CSCB AT+CMGL AT+CCUG"));
+      "\nanswered by the AT standard alone: AT+CLCC AT+CPAS AT+CSCA AT+CSCB AT+CMGL AT+CCUG"));
 }
 
 }  // namespace

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <random>
+
 #include "tests/simulator/bench.h"
 
 // Sending and storing messages, in the words of a host.
@@ -242,6 +245,41 @@ TEST_F(MessageSendCommands, SilentModemKeepsItsPromptOpen) {
   EXPECT_EQ(bench_.write("lost\x1A"), "");
   bench_.modem.console("silent off");
   EXPECT_EQ(bench_.write("heard\x1A"), "heard" + withOk("+CMGW: 1"));
+}
+
+// Whatever a host writes, a text's end, a line's end and some patience bring the modem back.
+TEST(MessageSending, BearsAnyOrderOfCommandsTextsAndControls) {
+  constexpr std::string_view kPieces[] = {
+      "AT+CMGS=0123\r",
+      "AT+CMGW=0123\r",
+      "AT+CMGW=1;+CCFC=0,2;+CMGS=2\r",
+      "Hello",
+      "\x1A",
+      "\x1B",
+      "\r",
+      "\n",
+      "\b",
+      "AT+CMGR= 1\r",
+      "AT+CMGD=1,4\r",
+      "AT+CCWA=1,2\r",
+      "ATD0123;\r",
+      "ATH\r",
+      "AT+CLCK=\"AO\",2\r",
+      "AT+CMGL=\"ALL\"\r",
+  };
+  for (unsigned seed = 1; seed <= 200; ++seed) {
+    std::mt19937 generator(seed);
+    Bench bench;
+    bench.ask("AT+CMGF=1;E0");
+    for (int piece = 0; piece < 30; ++piece) {
+      bench.modem.hostWrites(kPieces[generator() % std::size(kPieces)], Bench::kSpeed);
+      bench.listen(milliseconds(generator() % 3000));
+      if (generator() % 4 == 0) bench.modem.console("message 0199 x");
+    }
+    bench.listen(seconds(60));
+    bench.write("\x1A\x1A\r\x1A\r\x1B\r", seconds(60));
+    EXPECT_TRUE(bench.ask("AT").ends_with(kOk)) << "seed " << seed;
+  }
 }
 
 TEST(MessageSending, MayEndWithTheModem) {
