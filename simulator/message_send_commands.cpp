@@ -41,13 +41,11 @@ Outcome outcomeOf(const ModemState& state, const std::string& number) {
 // the plus that is missing. Nothing when it isn't one.
 std::optional<std::string> numberIn(const Arguments& given) {
   std::string number(given.text(0));
-  const auto type = given.has(1) ? given.number(1) : typeOfNumber(number);
+  const int type = given.has(1) ? given.number(1).value_or(0) : typeOfNumber(number);
   if (type == kInternationalNumber && !number.starts_with('+')) number.insert(0, "+");
-  const bool good = type == kInternationalNumber || type == kPlainNumber;
-  if (!good || !isPhoneNumber(number) || lengthOfNumber(number) > kLongestNumber) {
-    return std::nullopt;
-  }
-  return number;
+  const bool typed = type == kInternationalNumber || type == kPlainNumber;
+  const bool good = typed && isPhoneNumber(number) && lengthOfNumber(number) <= kLongestNumber;
+  return good ? std::optional(number) : std::nullopt;
 }
 
 // Why no text is asked for; nothing when one is.
