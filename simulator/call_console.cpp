@@ -3,6 +3,7 @@
 #include "simulator/console_table.h"
 #include "simulator/phone_book.h"
 #include "simulator/phone_number.h"
+#include "simulator/service_classes.h"
 #include "simulator/text.h"
 
 // The console as the other side of the calls.
@@ -21,17 +22,28 @@ std::string doneOr(bool done, std::string_view complaint) {
   return done ? std::string() : consoleError(complaint);
 }
 
+// Why the network doesn't let a caller through; empty when it does.
+std::string keptAway(const ModemState& state) {
+  if (!state.network.hasService()) return consoleError("the modem has no network");
+  if (state.barring.stopsIncoming(kVoiceClass, state.network.isHome())) {
+    return consoleError("incoming calls are barred");
+  }
+  const auto target = state.forwarding.target(Forwarding::kUnconditional, kVoiceClass);
+  return target ? consoleError("calls are forwarded to " + *target) : "";
+}
+
 std::string ring(ModemState& state, std::string_view operand) {
   const auto caller = callerIn(operand);
   if (!caller) return wrongUse();
-  if (!state.network.hasService()) return consoleError("the modem has no network");
+  if (const std::string complaint = keptAway(state); !complaint.empty()) return complaint;
   return doneOr(state.calls.ring(*caller), "there is a call already; 'wait' adds one to it");
 }
 
 std::string wait(ModemState& state, std::string_view operand) {
   const auto caller = callerIn(operand);
   if (!caller) return wrongUse();
-  if (!state.calls.waitingEnabled) return consoleError("call waiting is switched off");
+  if (const std::string complaint = keptAway(state); !complaint.empty()) return complaint;
+  if (!state.calls.waitingEnabled()) return consoleError("call waiting is switched off");
   return doneOr(state.calls.wait(*caller), "a caller waits only while there is one call, answered");
 }
 

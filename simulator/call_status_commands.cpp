@@ -61,8 +61,8 @@ Reply queryActivity(ModemState& state, const Command& command) {
 
 constexpr CommandRow kRows[] = {
     {.name = "+CIND", .query = queryIndicators, .test = listIndicators},
-    {.name = "+CLCC", .execute = listCalls, .test = isSupported},
-    {.name = "+CPAS", .execute = queryActivity, .test = isSupported},
+    fromStandard({.name = "+CLCC", .execute = listCalls, .test = isSupported}),
+    fromStandard({.name = "+CPAS", .execute = queryActivity, .test = isSupported}),
 };
 
 }  // namespace

@@ -49,7 +49,7 @@ bool Calls::ring(const std::string& number) {
 }
 
 bool Calls::wait(const std::string& number) {
-  if (!waitingEnabled || !has(CallState::kActive) || all().size() > 1) return false;
+  if (!waitingEnabled() || !has(CallState::kActive) || all().size() > 1) return false;
   calls_.add(CallState::kWaiting, false, number);
   announceWaiting(number);
   return true;

@@ -25,8 +25,10 @@ class Calls {
   const std::vector<Call>& all() const { return calls_.all(); }
   bool has(CallState state) const { return calls_.find(state) != nullptr; }
 
-  // What the network does with a caller during a call: false turns him away as busy.
-  bool waitingEnabled = true;
+  // The classes of calls for which a caller waits during a call; he is turned away as busy in the
+  // others. A sum of bits, of which 1 is voice.
+  int waitingClasses = 1;
+  bool waitingEnabled() const { return (waitingClasses & 1) != 0; }
 
   // Calls a number, as Dialer::dial says. Only without a call.
   void dial(const std::string& number, FinishCommand finish) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "simulator/command.h"
@@ -19,7 +20,16 @@ struct CommandRow {
   CommandHandler query = nullptr;
   CommandHandler set = nullptr;
   CommandHandler test = nullptr;
+
+  // Nobody has noted down what a modem of this family answers: its bytes are the AT standard's.
+  bool standardOnly = false;
 };
+
+// The same row, marked as one that follows the standard alone.
+constexpr CommandRow fromStandard(CommandRow row) {
+  row.standardOnly = true;
+  return row;
+}
 
 using CommandRows = std::span<const CommandRow>;
 
@@ -34,13 +44,20 @@ CommandRows dialCommands();
 CommandRows callStatusCommands();
 CommandRows phoneBookCommands();
 CommandRows messageCommands();
+CommandRows messageStoreCommands();
+CommandRows messageSendCommands();
+CommandRows serviceCommands();
+CommandRows lockCommands();
 
 // The handler for a command; null when there is none.
 CommandHandler handlerOf(const Command& command);
 
 // Does the commands of a line, with `body` being what stands behind "AT", up to the first that
-// fails. The reply holds what all of them tell, and the result of the last one done. A command that
-// takes its time is always the last of its line.
+// fails. The reply holds what all of them tell, and the result of the last one done. Those behind a
+// command that takes its time wait for it.
 Reply executeLine(ModemState& state, std::string_view body);
+
+// The commands that follow the standard alone, with blanks between them.
+std::string standardCommands();
 
 }  // namespace gsm::simulator

@@ -2,14 +2,15 @@
 
 #include <algorithm>
 
+#include "simulator/command_table.h"
 #include "simulator/text.h"
 
 namespace gsm::simulator {
 
 namespace {
 
-constexpr ConsoleRows (*kTables[])() = {networkConsole, simConsole, callConsole, lineConsole,
-                                        generalConsole};
+constexpr ConsoleRows (*kTables[])() = {networkConsole, simConsole,  callConsole,   messageConsole,
+                                        serviceConsole, lineConsole, generalConsole};
 
 // Where the explanations start in the help.
 constexpr std::size_t kHelpColumn = 44;
@@ -28,6 +29,12 @@ std::string run(const ConsoleRow& row, ModemState& state, std::string_view opera
 
 }  // namespace
 
+std::optional<bool> parseSwitch(std::string_view word) {
+  if (word == "on") return true;
+  if (word == "off") return false;
+  return std::nullopt;
+}
+
 std::string consoleHelp() {
   std::string help;
   for (const auto table : kTables) {
@@ -37,7 +44,7 @@ std::string consoleHelp() {
       help.append(help.empty() ? "" : "\n").append(line).append(row.help);
     }
   }
-  return help;
+  return help + "\nanswered by the AT standard alone: " + standardCommands();
 }
 
 std::string runConsoleLine(ModemState& state, std::string_view line) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -27,6 +28,8 @@ ConsoleRows lineConsole();
 ConsoleRows networkConsole();
 ConsoleRows simConsole();
 ConsoleRows callConsole();
+ConsoleRows messageConsole();
+ConsoleRows serviceConsole();
 ConsoleRows generalConsole();
 
 // What a handler returns when its operands don't fit; it is replaced by an error that shows how the
@@ -36,7 +39,11 @@ inline std::string wrongUse() { return std::string(kWrongUse); }
 
 inline std::string consoleError(std::string_view text) { return "error: " + std::string(text); }
 
-// All commands, one on a line, with their operands and what they do.
+// True for "on", false for "off"; nothing for any other word.
+std::optional<bool> parseSwitch(std::string_view word);
+
+// All commands, one on a line, with their operands and what they do; behind them the AT commands
+// whose answers no modem was heard to give.
 std::string consoleHelp();
 
 // Finds the command and does it. An empty line does nothing.

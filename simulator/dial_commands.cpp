@@ -3,6 +3,7 @@
 
 #include "simulator/phone_number.h"
 #include "simulator/profile_number.h"
+#include "simulator/service_classes.h"
 #include "simulator/sim_trouble.h"
 
 // Making, taking and ending calls, and tones in them.
@@ -37,7 +38,7 @@ Reply callNumber(ModemState& state, const std::string& number) {
     return state.settings.profile.errorCodes != 0 ? error(*trouble) : noCarrier();
   }
   if (!state.calls.all().empty()) return error(EquipmentError::kNotAllowed);
-  if (!state.network.hasService()) return noCarrier();
+  if (!state.network.hasService() || state.barring.stops(number, kVoiceClass)) return noCarrier();
   return {.result = Reply::Result::kNone, .later = [&state, number](FinishCommand finish) {
             state.calls.dial(number, std::move(finish));
           }};

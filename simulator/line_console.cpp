@@ -1,4 +1,3 @@
-#include <optional>
 #include <variant>
 
 #include "simulator/console_table.h"
@@ -9,12 +8,6 @@
 namespace gsm::simulator {
 
 namespace {
-
-std::optional<bool> parseSwitch(std::string_view word) {
-  if (word == "on") return true;
-  if (word == "off") return false;
-  return std::nullopt;
-}
 
 std::string setSilent(ModemState& state, std::string_view operand) {
   const auto on = parseSwitch(operand);

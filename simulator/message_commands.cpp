@@ -1,9 +1,11 @@
 #include <array>
 
+#include "simulator/phone_number.h"
 #include "simulator/profile_number.h"
+#include "simulator/sim_trouble.h"
 #include "simulator/text.h"
 
-// How messages and texts are shown and announced.
+// How messages and texts are sent, shown and announced.
 namespace gsm::simulator {
 
 namespace {
@@ -31,10 +33,61 @@ Reply listCharacterSets(ModemState&, const Command& command) {
   return ok(headed(command, "(" + names + ")"));
 }
 
+Reply queryServiceCentre(ModemState& state, const Command& command) {
+  if (const auto trouble = messageTrouble(state.sim.status())) return error(*trouble);
+  return ok(headed(command, numberFields(state.messages.serviceCentre)));
+}
+
+// "=NUMBER[,TYPE]". No number is fine until a message is to be sent.
+Reply setServiceCentre(ModemState& state, const Command& command) {
+  const Arguments& given = command.arguments;
+  if (given.size() < 1 || given.size() > 2) return error();
+  if (const auto trouble = messageTrouble(state.sim.status())) return error(*trouble);
+  std::string number(given.text(0));
+  if (!number.empty() && !isPhoneNumber(number)) return error(MessageError::kTextModeParameter);
+  const bool lacksPlus = !number.empty() && !number.starts_with('+');
+  if (lacksPlus && given.number(1) == kInternationalNumber) number.insert(0, "+");
+  state.messages.serviceCentre = number;
+  return ok();
+}
+
+Reply queryBroadcast(ModemState& state, const Command& command) {
+  const auto& [mode, kinds, languages] = state.messages.broadcast;
+  return ok(headed(command, std::to_string(mode) + "," + quoted(kinds) + "," + quoted(languages)));
+}
+
+constexpr Range kBroadcastModes = {0, 1};
+
+// "=MODE[,KINDS[,LANGUAGES]]", in the standard's way: 0 takes pages, 1 takes none.
+Reply setBroadcast(ModemState& state, const Command& command) {
+  const Arguments& given = command.arguments;
+  const auto mode = given.number(0);
+  if (given.size() > 3 || !mode) return error();
+  if (!kBroadcastModes.holds(*mode)) return error(MessageError::kTextModeParameter);
+  state.messages.broadcast.mode = *mode;
+  if (given.size() > 1) state.messages.broadcast.kinds = given.text(1);
+  if (given.size() > 2) state.messages.broadcast.languages = given.text(2);
+  return ok();
+}
+
+Reply listBroadcastModes(ModemState&, const Command& command) {
+  return ok(headed(command, kBroadcastModes.listing()));
+}
+
 constexpr CommandRow kRows[] = {
     profileNumbers<&Profile::textMode>("+CMGF"),
     profileNumbers<&Profile::messageNotices, &Profile::messageRoute, &Profile::broadcastRoute,
                    &Profile::reportRoute, &Profile::noticeBuffer>("+CNMI"),
+    profileNumbers<&Profile::messageKind, &Profile::messageValidity, &Profile::messageProtocol,
+                   &Profile::messageCoding>("+CSMP"),
+    fromStandard({.name = "+CSCA",
+                  .query = queryServiceCentre,
+                  .set = setServiceCentre,
+                  .test = isSupported}),
+    fromStandard({.name = "+CSCB",
+                  .query = queryBroadcast,
+                  .set = setBroadcast,
+                  .test = listBroadcastModes}),
     {.name = "+CSCS",
      .query = queryCharacterSet,
      .set = setCharacterSet,

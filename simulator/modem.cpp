@@ -37,7 +37,9 @@ Modem::Modem(Timeline& timeline, ProfileStore& store, Surroundings surroundings,
              const ModemOptions& options)
     : state_(timeline, store, std::move(surroundings), options),
       timeline_(timeline),
-      latency_(options.latency) {}
+      latency_(options.latency) {
+  state_.prompt.whenOpen([this] { work(); });
+}
 
 bool Modem::hears(int speed) const {
   if (state_.silent || !state_.plugged || !isLineSpeed(speed)) return false;
@@ -57,9 +59,14 @@ void Modem::hostWrites(std::string_view bytes, int speed) {
   }
 }
 
-// Takes what has been heard, up to the end of the next command line: one line is done at a time.
+// Takes what has been heard, up to the end of the next command line: one line is done at a time. A
+// command may want a text, and what is heard then is no command.
 void Modem::work() {
-  while (!busy_ && !waiting_.empty()) {
+  while ((!busy_ || state_.prompt.isOpen()) && !waiting_.empty()) {
+    if (state_.prompt.isOpen()) {
+      waiting_.erase(0, state_.prompt.take(waiting_));
+      continue;
+    }
     std::size_t taken = 0;
     std::string echo;
     auto step = LineInput::Step::kIgnored;

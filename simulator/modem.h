@@ -24,7 +24,8 @@ class Modem {
   // Bytes from the host, sent at `speed` bits per second. At another speed than the modem's they
   // are noise and do nothing. Nothing comes back from inside this call. What comes while a command
   // is being done waits for its result, without an echo. Dialing takes long, so it alone is ended,
-  // with NO CARRIER, by an ATH among what waits; any other byte leaves the call alone.
+  // with NO CARRIER, by an ATH among what waits; any other byte leaves the call alone. A command
+  // that wants a text takes all that comes for it, up to Ctrl-Z or Escape.
   void hostWrites(std::string_view bytes, int speed);
 
   // The speed at which the modem listens and sends; kAutobaud when at any.

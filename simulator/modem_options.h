@@ -8,6 +8,7 @@
 
 #include "simulator/cutter.h"
 #include "simulator/fault.h"
+#include "simulator/message.h"
 #include "simulator/phone_book.h"
 #include "simulator/sim_card.h"
 
@@ -32,6 +33,8 @@ struct ModemOptions {
 
   PhoneBookEntries phoneBook = factoryPhoneBook();
   std::size_t nameRoom = kLongestNameRoom;  // of the phone book, in bytes
+
+  MessageEntries messages = factoryMessages();  // on the card
 };
 
 }  // namespace gsm::simulator

@@ -34,7 +34,13 @@ ModemState::ModemState(Timeline& timeline, ProfileStore& store, Surroundings aro
           options.cutter, chainOf(options)),
       notices(settings, transmitter, silent),
       network(timeline, settings, notices, options.sim == SimStatus::kReady),
-      calls(timeline, settings, notices) {
+      calls(timeline, settings, notices),
+      messages(timeline, settings, notices, surroundings.clock, options.messages,
+               [this](std::string_view text) {
+                 return !surroundings.keepMessages || surroundings.keepMessages(text);
+               }),
+      prompt(settings, transmitter, silent),
+      delays(timeline) {
   if (options.speed) settings.assumeSpeed(*options.speed);
   speed_ = settings.profile.speed;
   if (speed_ != kAutobaud) transmitter.setSpeed(speed_);

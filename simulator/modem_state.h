@@ -1,6 +1,10 @@
 #pragma once
 
+#include "simulator/barring.h"
 #include "simulator/calls.h"
+#include "simulator/forwarding.h"
+#include "simulator/locks.h"
+#include "simulator/messages.h"
 #include "simulator/modem_options.h"
 #include "simulator/network.h"
 #include "simulator/notices.h"
@@ -8,6 +12,7 @@
 #include "simulator/settings.h"
 #include "simulator/sim_card.h"
 #include "simulator/surroundings.h"
+#include "simulator/text_prompt.h"
 #include "simulator/transmitter.h"
 
 namespace gsm::simulator {
@@ -39,6 +44,12 @@ struct ModemState {
   Notices notices;
   Network network;
   Calls calls;
+  Messages messages;
+  Forwarding forwarding;
+  Barring barring;
+  Locks locks;
+  TextPrompt prompt;
+  GuardedTimeline delays;  // of commands that take their time
 
  private:
   int speed_;

@@ -33,6 +33,9 @@ class Network {
     return registration_ == kRegisteredAtHome || registration_ == kRoaming;
   }
 
+  // False abroad, where another network serves.
+  bool isHome() const { return registration_ != kRoaming; }
+
   // The registration as +CREG tells it: the status and, in mode 2 with service, the place.
   std::string registrationText() const;
 

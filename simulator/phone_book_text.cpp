@@ -1,20 +1,12 @@
 #include "simulator/phone_book_text.h"
 
-#include <algorithm>
+#include <utility>
 
 #include "simulator/text.h"
 
 namespace gsm::simulator {
 
 namespace {
-
-// Takes what stands before the first `separator` off `text`, and the separator with it.
-std::string_view takeUpTo(char separator, std::string_view& text) {
-  const std::size_t end = std::min(text.find(separator), text.size());
-  const std::string_view taken = text.substr(0, end);
-  text.remove_prefix(std::min(end + 1, text.size()));
-  return taken;
-}
 
 std::string describe(EntryFlaw flaw, std::size_t nameRoom) {
   switch (flaw) {
@@ -55,14 +47,8 @@ std::string toText(const PhoneBookEntries& entries) {
 
 PhoneBookReading readPhoneBook(std::string_view text, std::size_t nameRoom) {
   PhoneBookReading reading;
-  for (int number = 1; !text.empty(); ++number) {
-    std::string_view line = takeUpTo('\n', text);
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    if (line.empty()) continue;
-    const std::string complaint = readLine(line, nameRoom, reading.entries);
-    if (complaint.empty()) continue;
-    reading.complaints.push_back("line " + std::to_string(number) + ": " + complaint);
-  }
+  reading.complaints = eachLine(
+      text, [&](std::string_view line) { return readLine(line, nameRoom, reading.entries); });
   return reading;
 }
 

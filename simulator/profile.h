@@ -35,6 +35,13 @@ struct Profile {
   int broadcastRoute = 0;
   int reportRoute = 0;
   int noticeBuffer = 0;
+  int messageKind = 1;
+  int messageValidity = 167;
+  int messageProtocol = 0;
+  int messageCoding = 0;
+  int cugMode = 0;
+  int cugIndex = 0;
+  int cugInfo = 0;
 
   friend bool operator==(const Profile&, const Profile&) = default;
 };
@@ -91,6 +98,13 @@ inline constexpr ProfileField kProfileFields[] = {
     {"+CNMI.bm", &Profile::broadcastRoute, {0, 3}},
     {"+CNMI.ds", &Profile::reportRoute, {0, 2}},
     {"+CNMI.bfr", &Profile::noticeBuffer, {0, 1}},
+    {"+CSMP.fo", &Profile::messageKind, {0, 255}},
+    {"+CSMP.vp", &Profile::messageValidity, {0, 255}},
+    {"+CSMP.pid", &Profile::messageProtocol, {0, 255}},
+    {"+CSMP.dcs", &Profile::messageCoding, {0, 255}},
+    {"+CCUG.n", &Profile::cugMode, {0, 1}},
+    {"+CCUG.index", &Profile::cugIndex, {0, 10}},
+    {"+CCUG.info", &Profile::cugInfo, {0, 3}},
 };
 
 constexpr const ProfileField& fieldOf(int Profile::*member) {

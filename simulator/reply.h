@@ -27,6 +27,26 @@ enum class EquipmentError {
   kTextMalformed = 25,
   kDialStringTooLong = 26,
   kDialStringMalformed = 27,
+  kNoService = 30,
+};
+
+// The +CMS errors that the modem gives. Those below 128 are the network's.
+enum class MessageError {
+  kCallBarred = 10,
+  kRejected = 21,
+  kCongestion = 42,
+  kNotSupported = 303,
+  kTextModeParameter = 305,
+  kSimMissing = 310,
+  kPinWanted = 311,
+  kSimFailure = 313,
+  kPukWanted = 316,
+  kMemoryFailure = 320,
+  kInvalidIndex = 321,
+  kMemoryFull = 322,
+  kNoServiceCentre = 330,
+  kNoService = 331,
+  kNetworkTimeout = 332,
 };
 
 // A result that has a digit of its own for ATV0, and that ATQ1 keeps back.
@@ -46,6 +66,9 @@ struct Reply;
 
 // Takes the rest of a reply.
 using FinishCommand = std::function<void(Reply rest)>;
+
+// Begins a command that takes its time, and sees to it that `finish` is called once.
+using BeginCommand = std::function<void(FinishCommand finish)>;
 
 // What a command answers.
 struct Reply {
@@ -68,10 +91,9 @@ struct Reply {
   // Done once the last byte of the whole reply has left, in the order of the commands.
   std::vector<std::function<void()>> afterwards;
 
-  // For a command that takes its time: begins it, and sees to it that `finish` is called once. What
-  // this reply holds goes out before, without a result; the modem does nothing else for the host in
-  // the meantime.
-  std::function<void(FinishCommand finish)> later;
+  // For a command that takes its time. What this reply holds goes out before, without a result; the
+  // modem does nothing else for the host in the meantime.
+  BeginCommand later;
 
   bool failed() const { return result != Result::kOk && result != Result::kNone; }
 };
@@ -93,8 +115,8 @@ inline Reply error(EquipmentError code) {
 }
 
 // The same for the message commands, with a +CMS code.
-inline Reply messageError(int code) {
-  return {.result = Reply::Result::kMessageError, .code = code};
+inline Reply error(MessageError code) {
+  return {.result = Reply::Result::kMessageError, .code = static_cast<int>(code)};
 }
 
 // For a call that couldn't be made or taken.

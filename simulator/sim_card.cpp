@@ -28,13 +28,24 @@ bool isPuk(std::string_view text) { return text.size() == 8 && isPin(text); }
 
 CodeCheck SimCard::enterPin(std::string_view pin) {
   if (status_ != SimStatus::kPinWanted) return CodeCheck::kNotAsked;
-  if (!isPin(pin)) return CodeCheck::kWrong;
-  if (pin == pin_) {
-    open();
-    return CodeCheck::kAccepted;
-  }
-  if (--pinTries_ == 0) status_ = SimStatus::kPukWanted;
-  return CodeCheck::kWrong;
+  const CodeCheck check = checkPin(pin);
+  if (check == CodeCheck::kAccepted) open();
+  return check;
+}
+
+CodeCheck SimCard::enablePin(bool on, std::string_view pin) {
+  if (status_ != SimStatus::kReady || pinEnabled_ == on) return CodeCheck::kNotAsked;
+  const CodeCheck check = checkPin(pin);
+  if (check == CodeCheck::kAccepted) pinEnabled_ = on;
+  return check;
+}
+
+CodeCheck SimCard::changePin(std::string_view pin, std::string_view newPin) {
+  if (status_ != SimStatus::kReady || !pinEnabled_) return CodeCheck::kNotAsked;
+  if (!isPin(newPin)) return CodeCheck::kWrong;
+  const CodeCheck check = checkPin(pin);
+  if (check == CodeCheck::kAccepted) pin_ = newPin;
+  return check;
 }
 
 CodeCheck SimCard::enterPuk(std::string_view puk, std::string_view newPin) {
@@ -72,6 +83,19 @@ void SimCard::open() {
   status_ = SimStatus::kReady;
   pinTries_ = kPinTries;
   pukTries_ = kPukTries;
+}
+
+CodeCheck SimCard::checkPin(std::string_view pin) {
+  if (!isPin(pin)) return CodeCheck::kWrong;
+  if (pin == pin_) {
+    pinTries_ = kPinTries;
+    return CodeCheck::kAccepted;
+  }
+  if (--pinTries_ == 0) {
+    status_ = SimStatus::kPukWanted;
+    pinEnabled_ = true;
+  }
+  return CodeCheck::kWrong;
 }
 
 std::string_view nameOf(SimStatus status) {

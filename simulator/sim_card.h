@@ -34,6 +34,18 @@ class SimCard {
   // The right PUK makes `newPin` the card's PIN and opens it. The tenth wrong one blocks it.
   CodeCheck enterPuk(std::string_view puk, std::string_view newPin);
 
+  // True when the card asks for its PIN at power-up.
+  bool pinEnabled() const { return pinEnabled_; }
+
+  // Has the card ask for its PIN, or not, and changes the PIN, of an opened card. Nothing is asked
+  // when it does so, or doesn't, already, and for a change while it doesn't. A wrong PIN costs a
+  // try as with `enterPin`.
+  CodeCheck enablePin(bool on, std::string_view pin);
+  CodeCheck changePin(std::string_view pin, std::string_view newPin);
+
+  // The same by hand, whatever the PIN.
+  void forcePin(bool on) { pinEnabled_ = on; }
+
   // Sets the status by hand, with all the tries that the status leaves.
   void force(SimStatus status);
 
@@ -43,6 +55,7 @@ class SimCard {
 
  private:
   void open();
+  CodeCheck checkPin(std::string_view pin);
 
   SimStatus status_ = SimStatus::kReady;
   SimStatus statusOutside_ = SimStatus::kReady;  // what a removed card will want when put in

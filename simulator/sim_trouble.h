@@ -20,4 +20,17 @@ constexpr std::optional<EquipmentError> simTrouble(SimStatus status) {
   return EquipmentError::kSimFailure;
 }
 
+// The same in the words of the message commands.
+constexpr std::optional<MessageError> messageTrouble(SimStatus status) {
+  switch (status) {
+    case SimStatus::kReady: return std::nullopt;
+    case SimStatus::kPinWanted: return MessageError::kPinWanted;
+    case SimStatus::kPukWanted: return MessageError::kPukWanted;
+    case SimStatus::kAbsent: return MessageError::kSimMissing;
+    case SimStatus::kBlocked:
+    case SimStatus::kFailed: break;
+  }
+  return MessageError::kSimFailure;
+}
+
 }  // namespace gsm::simulator

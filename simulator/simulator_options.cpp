@@ -36,6 +36,11 @@ bool setPhoneBook(SimulatorOptions& options, std::string_view path) {
   return !path.empty();
 }
 
+bool setMessages(SimulatorOptions& options, std::string_view path) {
+  options.messages = path;
+  return !path.empty();
+}
+
 bool setNameRoom(SimulatorOptions& options, std::string_view text) {
   options.modem.nameRoom = parseNumber<std::size_t>(text).value_or(0);
   return options.modem.nameRoom >= kShortestNameRoom && options.modem.nameRoom <= kLongestNameRoom;
@@ -95,6 +100,9 @@ constexpr OptionRow kOptions[] = {
     {"--profile", "FILE", "keep the stored profile in FILE", setProfile},
     {"--phonebook", "FILE", "keep the SIM's phone book in FILE: location, tab, number, tab, name",
      setPhoneBook},
+    {"--messages", "FILE",
+     "keep the SIM's messages in FILE: location, status, number, time, text, tabs between them",
+     setMessages},
     {"--name-room", "N", "longest name in the phone book, 10 to 14", setNameRoom},
     {"--seed", "N", "seed of all chance; makes a run repeatable", setSeed},
     {"--cut", "MODE", "pieces of a reply: whole, real or a number of bytes", setCut},

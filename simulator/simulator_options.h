@@ -15,6 +15,7 @@ struct SimulatorOptions {
   std::optional<std::string> link;       // path of a symbolic link to the modem's device
   std::optional<std::string> profile;    // file of the stored profile
   std::optional<std::string> phoneBook;  // file of the SIM's phone book
+  std::optional<std::string> messages;   // file of the SIM's messages
   bool seeded = false;                   // modem.seed was given
   double timeFactor = 1;                 // how many times faster than real the modem's delays run
   bool help = false;

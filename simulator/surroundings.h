@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 namespace gsm::simulator {
@@ -24,6 +25,13 @@ struct Surroundings {
   // The phone book has changed to `text`, which readPhoneBook reads. Returns whether it could be
   // kept; when it couldn't, the change doesn't happen.
   std::function<bool(std::string_view text)> keepPhoneBook = {};
+
+  // The same for the card's messages, which readMessages reads.
+  std::function<bool(std::string_view text)> keepMessages = {};
+
+  // The time by the network, as "26/01/31,18:22:11+04" with the time zone in quarters of an hour.
+  // Left empty, it is the same for ever.
+  std::function<std::string()> clock = {};
 };
 
 }  // namespace gsm::simulator

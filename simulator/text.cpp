@@ -1,5 +1,7 @@
 #include "simulator/text.h"
 
+#include <algorithm>
+
 namespace gsm::simulator {
 
 namespace {
@@ -43,6 +45,13 @@ std::string_view takeWord(std::string_view& text) {
   return word;
 }
 
+std::string_view takeUpTo(char separator, std::string_view& text) {
+  const std::size_t end = std::min(text.find(separator), text.size());
+  const std::string_view taken = text.substr(0, end);
+  text.remove_prefix(std::min(end + 1, text.size()));
+  return taken;
+}
+
 std::vector<std::string_view> words(std::string_view text) {
   std::vector<std::string_view> found;
   for (auto word = takeWord(text); !word.empty(); word = takeWord(text)) found.push_back(word);
@@ -66,6 +75,24 @@ std::optional<std::string> unescaped(std::string_view text) {
     bytes += *escape;
   }
   return quoted ? std::nullopt : std::optional(bytes);
+}
+
+std::string escaped(std::string_view bytes) {
+  constexpr std::string_view kHex = "0123456789ABCDEF";
+  constexpr std::string_view kNamed = "\r\n\t\\\"";
+  constexpr std::string_view kNames = "rnt\\\"";
+  std::string text;
+  for (const char c : bytes) {
+    if (const auto at = kNamed.find(c); at != std::string_view::npos) {
+      text.append("\\").push_back(kNames[at]);
+    } else if (isControl(c)) {
+      const auto byte = static_cast<unsigned char>(c);
+      text.append("\\x").append({kHex[byte / 16], kHex[byte % 16]});
+    } else {
+      text += c;
+    }
+  }
+  return text;
 }
 
 }  // namespace gsm::simulator

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "simulator/host/entry_file.h"
 #include "simulator/phone_book.h"
 
 namespace gsm::pty {
@@ -13,7 +14,7 @@ namespace gsm::pty {
 // its name with a tab between them.
 class FilePhoneBook {
  public:
-  explicit FilePhoneBook(std::string path) : path_(std::move(path)) {}
+  explicit FilePhoneBook(std::string path) : file_("phone book", std::move(path)) {}
 
   // The file's entries; those of a fresh card when there is no file. A line that can't be an entry
   // is told on standard error and passed over, and lost with the first `save`. Throws
@@ -21,10 +22,10 @@ class FilePhoneBook {
   simulator::PhoneBookEntries load(std::size_t nameRoom) const;
 
   // Replaces the file as a whole. False, with a message on standard error, when it can't.
-  bool save(std::string_view text) const;
+  bool save(std::string_view text) const { return file_.save(text); }
 
  private:
-  std::string path_;
+  EntryFile file_;
 };
 
 }  // namespace gsm::pty

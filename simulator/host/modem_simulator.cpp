@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "simulator/host/file_messages.h"
 #include "simulator/host/file_phone_book.h"
 #include "simulator/host/file_profile_store.h"
 #include "simulator/host/pty_server.h"
@@ -38,17 +39,27 @@ std::function<bool(std::string_view)> phoneBookFor(SimulatorOptions& options) {
   return [book](std::string_view text) { return book.save(text); };
 }
 
+// The same for the messages.
+std::function<bool(std::string_view)> messagesFor(SimulatorOptions& options) {
+  if (!options.messages) return {};
+  const gsm::pty::FileMessages messages(*options.messages);
+  options.modem.messages = messages.load();
+  return [messages](std::string_view text) { return messages.save(text); };
+}
+
 int serve(SimulatorOptions options) {
   if (!options.seeded) options.modem.seed = std::random_device{}();
   const auto store = storeFor(options);
   const auto keepPhoneBook = phoneBookFor(options);
+  const auto keepMessages = messagesFor(options);
   const gsm::pty::StopSignals stop;
   gsm::pty::PtyServer server(*store, {.modem = options.modem,
                                       .link = options.link,
                                       .timeFactor = options.timeFactor,
                                       .consoleInput = 0,
                                       .stopDescriptor = stop.descriptor(),
-                                      .keepPhoneBook = keepPhoneBook});
+                                      .keepPhoneBook = keepPhoneBook,
+                                      .keepMessages = keepMessages});
   std::cout << "modem on " << server.device();
   if (options.link) std::cout << " (linked as " << *options.link << ")";
   std::cout << ", " << speedText(server.speed()) << ", seed " << options.modem.seed << std::endl;

@@ -8,6 +8,8 @@
 #include <exception>
 #include <iostream>
 
+#include "simulator/host/wall_clock.h"
+
 namespace gsm::pty {
 
 namespace {
@@ -38,7 +40,9 @@ PtyServer::PtyServer(simulator::ProfileStore& store, const PtyServerOptions& opt
               .speedChanged = {},
               .plugChanged = [this](bool plugged) { plugged ? plugIn() : plugOut(); },
               .quit = [this] { ended_ = true; },
-              .keepPhoneBook = options.keepPhoneBook},
+              .keepPhoneBook = options.keepPhoneBook,
+              .keepMessages = options.keepMessages,
+              .clock = networkTimeNow},
              options.modem) {
   plugIn();
 }

@@ -21,8 +21,10 @@ struct PtyServerOptions {
   int consoleInput = -1;    // descriptor of the console's lines; -1 for no console
   int stopDescriptor = -1;  // the server ends when this one becomes readable; -1 for none
 
-  // Keeps the phone book after a change, as Surroundings says; empty to keep it in memory alone.
+  // Keep the phone book and the messages after a change, as Surroundings says; empty to keep them
+  // in memory alone.
   std::function<bool(std::string_view text)> keepPhoneBook = {};
+  std::function<bool(std::string_view text)> keepMessages = {};
 };
 
 // A modem on a pseudo-terminal, in real time. It runs on the thread that calls it.

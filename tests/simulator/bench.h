@@ -30,19 +30,22 @@ class Bench {
     return received;
   }
 
-  // Writes `bytes` as they are and returns what arrives within a second.
-  std::string write(std::string_view bytes) {
+  // Writes `bytes` as they are and returns what arrives within `time`.
+  std::string write(std::string_view bytes, std::chrono::nanoseconds time = seconds(1)) {
     modem.hostWrites(bytes, hostSpeed);
-    return listen();
+    return listen(time);
   }
 
   // Writes a command with its carriage return and returns what arrives behind its echo; all that
   // arrives when there is no echo.
-  std::string ask(const std::string& command) {
-    const std::string reply = write(command + "\r");
+  std::string ask(const std::string& command, std::chrono::nanoseconds time = seconds(1)) {
+    const std::string reply = write(command + "\r", time);
     const std::string echo = command + "\r";
     return reply.starts_with(echo) ? reply.substr(echo.size()) : reply;
   }
+
+  // The same for a command that the network has to think about.
+  std::string askNetwork(const std::string& command) { return ask(command, seconds(3)); }
 
   VirtualTimeline timeline;
   MemoryProfileStore store;
@@ -55,6 +58,8 @@ class Bench {
   int quits = 0;
   std::vector<std::string> phoneBooks;  // that were to be kept, as text
   bool phoneBookFits = true;            // whether they can be
+  std::vector<std::string> messages;    // the same for the card's messages
+  bool messagesFit = true;
   Modem modem;
 
  private:
@@ -77,6 +82,11 @@ class Bench {
                 [this](std::string_view text) {
                   phoneBooks.emplace_back(text);
                   return phoneBookFits;
+                },
+            .keepMessages =
+                [this](std::string_view text) {
+                  messages.emplace_back(text);
+                  return messagesFit;
                 }};
   }
 };

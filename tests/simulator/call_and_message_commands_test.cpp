@@ -17,45 +17,6 @@ TEST(CallCommands, SwitchesTakeTheirValues) {
   EXPECT_EQ(bench.ask("AT+SPEAKER=2"), kError);
 }
 
-TEST(CallCommands, CallWaitingTellsWhatTheNetworkDoes) {
-  Bench bench;
-  EXPECT_EQ(bench.ask("AT+CCWA?"), withOk("+CCWA: 0"));
-  EXPECT_EQ(bench.ask("AT+CCWA=?"), withOk("+CCWA: (0,1)"));
-  EXPECT_EQ(bench.ask("AT+CCWA=1,2"), withOk("+CCWA: 1,1"));
-  EXPECT_EQ(bench.ask("AT+CCWA?"), withOk("+CCWA: 1"));
-  EXPECT_EQ(bench.ask("AT+CCWA=1,0,7"), kOk);
-  EXPECT_EQ(bench.ask("AT+CCWA=1,2"), withOk("+CCWA: 0,7"));
-  EXPECT_EQ(bench.ask("AT+CCWA=1,1,1"), kOk);
-  EXPECT_EQ(bench.ask("AT+CCWA=,2"), withOk("+CCWA: 1,1"));
-  EXPECT_EQ(bench.ask("AT+CCWA=0"), kOk);
-  EXPECT_EQ(bench.ask("AT+CCWA?"), withOk("+CCWA: 0"));
-}
-
-TEST(CallCommands, CallWaitingOfOtherClassesThanVoiceIsOffAndStaysSo) {
-  Bench bench;
-  EXPECT_EQ(bench.ask("AT+CCWA=1,2,4"), withOk("+CCWA: 0,4"));
-  EXPECT_EQ(bench.ask("AT+CCWA=1,0,6"), kOk);
-  EXPECT_EQ(bench.ask("AT+CCWA=1,2"), withOk("+CCWA: 1,1"));
-}
-
-TEST(CallCommands, BadCallWaitingChangesNothing) {
-  Bench bench;
-  for (const char* bad : {"AT+CCWA=", "AT+CCWA=x", "AT+CCWA=2", "AT+CCWA=1,3", "AT+CCWA=1,x",
-                          "AT+CCWA=1,0,0", "AT+CCWA=1,0,256", "AT+CCWA=1,0,x", "AT+CCWA=1,0,1,1"}) {
-    EXPECT_EQ(bench.ask(bad), kError) << bad;
-  }
-  EXPECT_EQ(bench.ask("AT+CCWA?"), withOk("+CCWA: 0"));
-  EXPECT_EQ(bench.ask("AT+CCWA=0,2"), withOk("+CCWA: 1,1"));
-}
-
-TEST(CallCommands, CallWaitingServiceNeedsACard) {
-  Bench bench({.sim = SimStatus::kPinWanted});
-  bench.ask("AT+CMEE=1");
-  EXPECT_EQ(bench.ask("AT+CCWA=1,2"), "\r\n+CME ERROR: 11\r\n");
-  EXPECT_EQ(bench.ask("AT+CCWA?"), withOk("+CCWA: 0"));
-  EXPECT_EQ(bench.ask("AT+CCWA=1"), kOk);
-}
-
 TEST(MessageCommands, TextModeIsOffFirst) {
   Bench bench;
   EXPECT_EQ(bench.ask("AT+CMGF?"), withOk("+CMGF: 0"));

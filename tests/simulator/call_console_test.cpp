@@ -49,11 +49,11 @@ TEST(CallConsole, OneCallerRings) {
 
 TEST(CallConsole, NobodyWaitsWhileTheNetworkTurnsCallersAway) {
   Bench bench;
-  bench.ask("AT+CCWA=1,0");
+  bench.askNetwork("AT+CCWA=1,0");
   bench.modem.console("ring 0123");
   bench.ask("ATA");
   EXPECT_EQ(bench.modem.console("wait 0124"), "error: call waiting is switched off");
-  bench.ask("AT+CCWA=1,1");
+  bench.askNetwork("AT+CCWA=1,1");
   EXPECT_EQ(bench.modem.console("wait 0124"), "");
 }
 

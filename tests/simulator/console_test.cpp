@@ -185,9 +185,11 @@ TEST(Console, QuitIsPassedOn) {
 
 TEST(Console, HelpHasOneLineForEveryCommand) {
   const std::string help = "\n" + consoleHelp();
-  for (const char* name : {"signal", "register", "phonebook", "sim",    "ring",   "wait", "giveup",
-                           "answer", "busy",     "hangup",    "silent", "unplug", "plug", "say",
-                           "line",   "echo",     "speed",     "fault",  "state",  "help", "quit"}) {
+  for (const char* name :
+       {"signal",  "register",  "phonebook", "sim",      "ring",     "wait", "giveup",
+        "answer",  "busy",      "hangup",    "silent",   "unplug",   "plug", "say",
+        "line",    "echo",      "speed",     "fault",    "state",    "help", "quit",
+        "message", "broadcast", "report",    "messages", "services", "bar",  "lock"}) {
     EXPECT_NE(help.find("\n" + std::string(name) + " "), std::string::npos) << name;
   }
   Bench bench;

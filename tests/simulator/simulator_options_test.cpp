@@ -16,8 +16,10 @@ std::string complaint(const Given& given) { return std::get<std::string>(parseOp
 TEST(SimulatorOptions, NothingGivenIsARegisteredModemWithoutALink) {
   const SimulatorOptions options = parsed({});
   EXPECT_EQ(options.modem.sim, SimStatus::kReady);
-  EXPECT_FALSE(options.link || options.profile || options.phoneBook || options.modem.speed);
+  EXPECT_FALSE(options.link || options.profile || options.phoneBook || options.messages ||
+               options.modem.speed);
   EXPECT_EQ(options.modem.phoneBook, factoryPhoneBook());
+  EXPECT_EQ(options.modem.messages, factoryMessages());
   EXPECT_EQ(options.modem.nameRoom, 14u);
   EXPECT_FALSE(options.seeded || options.help || options.modem.silent);
   EXPECT_EQ(options.timeFactor, 1);
@@ -25,23 +27,20 @@ TEST(SimulatorOptions, NothingGivenIsARegisteredModemWithoutALink) {
 }
 
 TEST(SimulatorOptions, EveryOptionArrives) {
-  const SimulatorOptions options = parsed({"--link",        "/tmp/m",
-                                           "--speed",       "9600",
-                                           "--sim",         "puk",
-                                           "--profile",     "p",
-                                           "--phonebook",   "b",
-                                           "--name-room",   "10",
-                                           "--seed",        "18446744073709551615",
-                                           "--cut",         "8",
-                                           "--fault",       "cut 3",
-                                           "--fault",       "garble 0.1",
-                                           "--time-factor", "2.5",
-                                           "--silent",      "--help"});
+  const SimulatorOptions options =
+      parsed({"--link",      "/tmp/m",     "--speed",       "9600",
+              "--sim",       "puk",        "--profile",     "p",
+              "--phonebook", "b",          "--messages",    "m",
+              "--name-room", "10",         "--seed",        "18446744073709551615",
+              "--cut",       "8",          "--fault",       "cut 3",
+              "--fault",     "garble 0.1", "--time-factor", "2.5",
+              "--silent",    "--help"});
   EXPECT_EQ(options.link, "/tmp/m");
   EXPECT_EQ(options.modem.speed, 9600);
   EXPECT_EQ(options.modem.sim, SimStatus::kPukWanted);
   EXPECT_EQ(options.profile, "p");
   EXPECT_EQ(options.phoneBook, "b");
+  EXPECT_EQ(options.messages, "m");
   EXPECT_EQ(options.modem.nameRoom, 10u);
   EXPECT_EQ(options.modem.seed, 18446744073709551615u);
   EXPECT_TRUE(options.seeded);
@@ -58,8 +57,8 @@ TEST(SimulatorOptions, BadValuesAreNamed) {
                         {"--seed", "-1"},       {"--cut", "0"},         {"--fault", "melt"},
                         {"--fault", "cut 0"},   {"--time-factor", "0"}, {"--time-factor", "nan"},
                         {"--time-factor", "x"}, {"--link", ""},         {"--profile", ""},
-                        {"--phonebook", ""},    {"--name-room", "9"},   {"--name-room", "15"},
-                        {"--name-room", "-10"}, {"--name-room", "x"}};
+                        {"--phonebook", ""},    {"--messages", ""},     {"--name-room", "9"},
+                        {"--name-room", "15"},  {"--name-room", "-10"}, {"--name-room", "x"}};
   for (const Given& given : kBad) {
     const std::string text = complaint(given);
     EXPECT_NE(text.find(given[0]), std::string::npos) << text;
@@ -75,8 +74,9 @@ TEST(SimulatorOptions, MissingValuesAndUnknownOptionsAreNamed) {
 
 TEST(SimulatorOptions, HelpNamesEveryOption) {
   const std::string help = optionsHelp();
-  for (const char* name : {"--link", "--speed", "--sim", "--profile", "--phonebook", "--name-room",
-                           "--seed", "--cut", "--fault", "--time-factor", "--silent", "--help"}) {
+  for (const char* name :
+       {"--link", "--speed", "--sim", "--profile", "--phonebook", "--messages", "--name-room",
+        "--seed", "--cut", "--fault", "--time-factor", "--silent", "--help"}) {
     EXPECT_NE(help.find(std::string("  ") + name + " "), std::string::npos) << name;
   }
 }
