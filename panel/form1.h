@@ -219,8 +219,6 @@ class Form1 : public Window {
 
   // Routing.
   void route();
-  void showCaller(const std::string& number, const std::string& nameWords,
-                  const std::string& numberWords);
   void saveEntry(int location);
 
   // The modem.
