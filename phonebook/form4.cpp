@@ -14,7 +14,6 @@ Form4::Form4(Panel& panel)
 }
 
 void Form4::Form_Load() {
-  platform().files.changeToProgramFolder();
   for (TextBox* box : {&Text1, &Text2, &Text3, &Text4}) box->Text = "";
 }
 

@@ -45,7 +45,6 @@ frmSettings::frmSettings(Panel& panel) : Window(panel.platform, "frmSettings"), 
 }
 
 void frmSettings::Form_Load() {
-  platform().files.changeToProgramFolder();
   Caption = "Scanning available comm hardware...";
   for (CommandButton& button : cmdAction) button.Enabled = false;
   Centred = true;
