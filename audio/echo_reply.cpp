@@ -18,7 +18,7 @@ std::string takeField(std::string& rest) {
 }  // namespace
 
 void Form1::ShowEchoValues(const std::string& key) try {
-  const int place = wholeNumber(key);
+  const auto place = static_cast<Position>(wholeCount(key));
   if (place == 0) return;
   const std::string values = Text1.slice(place + 6, 20);
   std::string rest = values;

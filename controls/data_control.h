@@ -13,7 +13,7 @@ struct DataControlDesign {
   std::string RecordSource;  // a table
 };
 
-/// A control bound to a table of a database file in the current folder. It has no view.
+/// A control bound to a table of a database file in the program's folder. It has no view.
 class DataControl : public Control {
  public:
   using Design = DataControlDesign;
@@ -24,6 +24,9 @@ class DataControl : public Control {
 
   /// The record set; opened when it isn't open yet.
   RecordSet& Recordset();
+
+  const std::string& databaseName() const { return databaseName_; }
+  const std::string& recordSource() const { return recordSource_; }
 
   void unloaded() override;
 

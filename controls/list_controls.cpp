@@ -92,19 +92,21 @@ void ComboBox::selected() {
 
 bool ComboBox::userType(std::string_view keys) {
   std::string text = Text.peek();
-  for (const char key : keys) {
+  for (const char key : keys.substr(0, keys.find_first_of("\r\n"))) {
     if (key != TextBox::kBackspace) {
-      text += key;
+      text += singleLine({&key, 1});
     } else if (!text.empty()) {
       text.pop_back();
     }
   }
-  return userEdit(std::move(text));
+  return edit(std::move(text));
 }
 
-bool ComboBox::userErase() { return userEdit(""); }
+bool ComboBox::userErase() { return edit(""); }
 
-bool ComboBox::userEdit(std::string text) {
+bool ComboBox::userEdit(std::string text) { return edit(singleLine(text)); }
+
+bool ComboBox::edit(std::string text) {
   if (!isReachable() || !isEditable()) return false;
   ListIndex.store(-1);
   Text.store(std::move(text));

@@ -87,7 +87,7 @@ class ComboBox : public ListControl {
   bool isEditable() const { return style_ == ComboStyle::editable; }
 
   // What the user does with an editable combo, as with a text box: False when it is out of reach
-  // or takes no typing. Typing selects no item.
+  // or takes no typing. Typing selects no item. It takes a single line, without control characters.
   bool userType(std::string_view keys);
   bool userErase();
   bool userEdit(std::string text);
@@ -96,6 +96,8 @@ class ComboBox : public ListControl {
   void selected() override;
 
  private:
+  bool edit(std::string text);
+
   const ComboStyle style_;
 };
 

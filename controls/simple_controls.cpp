@@ -21,6 +21,9 @@ Picture::Picture(Window& window, std::string name, Design design, int index)
 
 bool Picture::userClick() { return raiseIfReachable(Click); }
 
+Shape::Shape(Window& window, std::string name, Design design, int index)
+    : Control(window, std::move(name), index, design.In, design.Visible, design.Enabled) {}
+
 Frame::Frame(Window& window, std::string name, Design design, int index)
     : Control(window, std::move(name), index, design.In, design.Visible, design.Enabled),
       Caption(*this, PropertyId::Caption, std::move(design.Caption)) {}

@@ -66,6 +66,19 @@ class Picture : public Control {
   bool userClick();
 };
 
+struct ShapeDesign {
+  Control* In = nullptr;
+  bool Visible = true;
+  bool Enabled = true;
+};
+
+/// A figure that is only there for the eye: it takes no click.
+class Shape : public Control {
+ public:
+  using Design = ShapeDesign;
+  Shape(Window& window, std::string name, Design design = {}, int index = kNoIndex);
+};
+
 struct FrameDesign {
   std::string Caption;
   Control* In = nullptr;

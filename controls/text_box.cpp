@@ -1,11 +1,26 @@
 #include "controls/text_box.h"
 
-#include "controls/window.h"
-
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
+#include "controls/window.h"
+
 namespace gsm {
+namespace {
+
+bool isLineBreak(char character) { return character == '\r' || character == '\n'; }
+bool isControl(int code) { return code < ' ' || code == 0x7F; }
+
+}  // namespace
+
+std::string singleLine(std::string_view text) {
+  const auto end = std::find_if(text.begin(), text.end(), isLineBreak);
+  std::string line;
+  std::copy_if(text.begin(), end, std::back_inserter(line),
+               [](char each) { return !isControl(static_cast<unsigned char>(each)); });
+  return line;
+}
 
 TextBox::TextBox(Window& window, std::string name, Design design, int index)
     : Control(window, std::move(name), index, design.In, design.Visible, design.Enabled),
@@ -17,9 +32,7 @@ TextBox::TextBox(Window& window, std::string name, Design design, int index)
       MaxLength(*this, PropertyId::MaxLength, design.MaxLength),
       SelStart(*this, PropertyId::SelStart, 0,
                [](PropertyOwner& owner, int position) {
-                 auto& box = static_cast<TextBox&>(owner);
-                 const int length = static_cast<int>(box.Text.peek().size());
-                 box.SelStart.store(std::clamp(position, 0, length));
+                 static_cast<TextBox&>(owner).moveCaret(position);
                }),
       masked_(design.Masked),
       multiLine_(design.MultiLine) {}
@@ -30,16 +43,22 @@ std::string TextBox::cut(std::string text) const {
   return text;
 }
 
+void TextBox::moveCaret(int position) {
+  SelStart.store(std::clamp(position, 0, static_cast<int>(Text.peek().size())));
+}
+
 bool TextBox::userType(std::string_view keys) {
   if (!isReachable()) return false;
   for (const char key : keys) {
     if (!isReachable()) return false;  // a handler of the key before may have hidden the box
+    if (!multiLine_ && isLineBreak(key)) break;
     typeKey(static_cast<unsigned char>(key));
   }
   return true;
 }
 
 void TextBox::typeKey(int key) {
+  if (!multiLine_ && isControl(key) && key != kBackspace) return;
   if (KeyPress) key = KeyPress(key);
   std::string text = Text.peek();
   if (key == 0) return;
@@ -52,21 +71,23 @@ void TextBox::typeKey(int key) {
   }
   const int end = static_cast<int>(text.size());
   Text.store(std::move(text));
-  SelStart.store(end);
+  moveCaret(end);
 }
 
 bool TextBox::userErase() { return userEdit("", 0); }
 
 bool TextBox::userEdit(std::string text, int caret) {
   if (!isReachable()) return false;
-  Text.store(cut(std::move(text)));
-  SelStart.store(caret);
+  Text.store(cut(multiLine_ ? std::move(text) : singleLine(text)));
+  moveCaret(caret);
   return true;
 }
 
 void TextBox::stored(PropertyId property) {
   Control::stored(property);
-  if (property == PropertyId::Text && window().isLoaded()) Change.raise();
+  if (property != PropertyId::Text) return;
+  moveCaret(SelStart.peek());
+  if (window().isLoaded()) Change.raise();
 }
 
 }  // namespace gsm

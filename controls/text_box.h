@@ -18,13 +18,17 @@ struct TextBoxDesign {
   bool Enabled = true;
 };
 
+/// What a box of one line takes of `text` when the user types or pastes it: all up to the first
+/// line break, without control characters. They would become commands once they are sent.
+std::string singleLine(std::string_view text);
+
 /// A box of text that the user types into, or, when it has no view, a text that handlers share.
 class TextBox : public Control {
  public:
   using Design = TextBoxDesign;
   TextBox(Window& window, std::string name, Design design = {}, int index = kNoIndex);
 
-  /// An assigned text is cut to `MaxLength`.
+  /// An assigned text is cut to `MaxLength`. The caret stays within it.
   Property<std::string> Text;
   Property<int> MaxLength;
   /// The caret: how many characters lie before it.
@@ -38,7 +42,8 @@ class TextBox : public Control {
   /// 0 to discard the key. Without it every key passes.
   std::function<int(int)> KeyPress;
 
-  // What the user does. False when the box is out of reach.
+  // What the user does. False when the box is out of reach. A box that isn't `MultiLine` ends at
+  // the first line break and takes no control characters.
 
   /// Types `keys` at the end of the text, one by one; `kBackspace` takes the last character away.
   bool userType(std::string_view keys);
@@ -56,6 +61,7 @@ class TextBox : public Control {
  private:
   void typeKey(int key);
   std::string cut(std::string text) const;
+  void moveCaret(int position);
 
   const bool masked_;
   const bool multiLine_;

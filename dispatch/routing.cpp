@@ -22,7 +22,6 @@ struct Branch {
 };
 
 struct Test {
-  int number;
   std::vector<Branch> branches;  // the first whose key stands in the transcript acts
   std::string_view alsoNeeds;    // must stand there too, unless empty
   Clearing clearing;  // of the transcript: never, as the action decides, or once it is done
@@ -59,32 +58,31 @@ void showServiceCenter(Form1& form, Form6&, Position) {
 // behind it fail, and one that doesn't leaves the same text to them and to the next call.
 const std::vector<Test>& tests() {
   static const std::vector<Test> row = {
-      {1, {{"CMTI", method(&Form1::tellOfMessage)}}, "", Clearing::whole},
-      {2, {{"+CCWA:", method(&Form1::tellOfWaitingCall)}}, "\"", Clearing::none},
-      {3,
-       {{"NO ANSWER", method(&Form1::tellOfNoAnswer)},
+      {{{"CMTI", method(&Form1::tellOfMessage)}}, "", Clearing::whole},
+      {{{"+CCWA:", method(&Form1::tellOfWaitingCall)}}, "\"", Clearing::none},
+      {{{"NO ANSWER", method(&Form1::tellOfNoAnswer)},
         {"NO CARRIER", method(&Form1::tellOfNoCarrier)},
         {"BUSY", method(&Form1::tellOfBusy)}},
        "",
        Clearing::none},
-      {4, {{"ATI0", method(&Form1::ShowManufacturer)}}, "OK", Clearing::byAction},
-      {5, {{"ATI3", method(&Form1::ShowRevision)}}, "OK", Clearing::byAction},
-      {6, {{"AT+CPBS?", method(&Form1::SavePhoneBook)}}, "OK", Clearing::byAction},
-      {7, {{"AT+VGR=", outcome("Changes SuccessFul-Speaker")}}, "", Clearing::whole},
-      {8, {{"AT+VGT=", outcome("Changes SuccessFul-Microphone")}}, "", Clearing::whole},
-      {9, {{"VGR:", method(&Form1::showSpeakerGain)}}, "", Clearing::whole},
-      {10, {{"VGT:", method(&Form1::showMicrophoneGain)}}, "", Clearing::whole},
-      {11, {{"ECHO:", showEchoValues}}, "", Clearing::byAction},
-      {12, {{"AT+ECHO=", outcome("Changes SuccessFul")}}, "", Clearing::whole},
-      {13, {{"SIDET:", method(&Form1::showSideTone)}}, "", Clearing::whole},
-      {14, {{"AT+SIDET=", outcome("Changes SuccessFul")}}, "", Clearing::whole},
-      {15, {{"CSQ:", method(&Form1::showSignal)}}, "", Clearing::whole},
-      {16, {{"CREG:", method(&Form1::showRegistration)}}, "", Clearing::whole},
-      {17, {{"CPIN:", method(&Form1::HandlePinStatus)}}, "", Clearing::whole},
-      {18, {{"+CPIN=", method(&Form1::HandlePinResult)}}, "", Clearing::byAction},
-      {19, {{"AT+CSCA?", showServiceCenter}}, "", Clearing::byAction},
-      {20, {{"RING", method(&Form1::tellOfRing)}}, "", Clearing::whole},
-      {21, {{"+CDS:", method(&Form1::readStatusReport)}}, "", Clearing::none},
+      {{{"ATI0", method(&Form1::ShowManufacturer)}}, "OK", Clearing::byAction},
+      {{{"ATI3", method(&Form1::ShowRevision)}}, "OK", Clearing::byAction},
+      {{{"AT+CPBS?", method(&Form1::SavePhoneBook)}}, "OK", Clearing::byAction},
+      {{{"AT+VGR=", outcome("Changes SuccessFul-Speaker")}}, "", Clearing::whole},
+      {{{"AT+VGT=", outcome("Changes SuccessFul-Microphone")}}, "", Clearing::whole},
+      {{{"VGR:", method(&Form1::showSpeakerGain)}}, "", Clearing::whole},
+      {{{"VGT:", method(&Form1::showMicrophoneGain)}}, "", Clearing::whole},
+      {{{"ECHO:", showEchoValues}}, "", Clearing::byAction},
+      {{{"AT+ECHO=", outcome("Changes SuccessFul")}}, "", Clearing::whole},
+      {{{"SIDET:", method(&Form1::showSideTone)}}, "", Clearing::whole},
+      {{{"AT+SIDET=", outcome("Changes SuccessFul")}}, "", Clearing::whole},
+      {{{"CSQ:", method(&Form1::showSignal)}}, "", Clearing::whole},
+      {{{"CREG:", method(&Form1::showRegistration)}}, "", Clearing::whole},
+      {{{"CPIN:", method(&Form1::HandlePinStatus)}}, "", Clearing::whole},
+      {{{"+CPIN=", method(&Form1::HandlePinResult)}}, "", Clearing::byAction},
+      {{{"AT+CSCA?", showServiceCenter}}, "", Clearing::byAction},
+      {{{"RING", method(&Form1::tellOfRing)}}, "", Clearing::whole},
+      {{{"+CDS:", method(&Form1::readStatusReport)}}, "", Clearing::none},
   };
   return row;
 }

@@ -20,6 +20,16 @@ std::string lastCharacters(const std::string& text, std::size_t count) {
   return text.size() <= count ? text : text.substr(text.size() - count);
 }
 
+// The entry of the mirror with that number, or null.
+RecordSet* findCaller(Panel& panel, const std::string& number) {
+  DataControl& mirror = panel.form3.Data1;
+  mirror.Refresh();
+  RecordSet& entries = mirror.Recordset();
+  // The blank before the closing quote belongs to the criterion.
+  entries.FindFirst("right(number,10) = '" + lastCharacters(number, 10) + " '");
+  return entries.NoMatch() ? nullptr : &entries;
+}
+
 }  // namespace
 
 // CMTI: "SM",3
@@ -36,23 +46,14 @@ void Form1::tellOfMessage(Position key) {
   panel_.form8.Label4.Caption = "New Message Received." + index;
 }
 
-// Shows the prompt with the caller's name where the mirror knows the number, else with the number.
-void Form1::showCaller(const std::string& number, const std::string& nameWords,
-                       const std::string& numberWords) {
-  DataControl& mirror = panel_.form3.Data1;
-  mirror.Refresh();
-  RecordSet& entries = mirror.Recordset();
-  // The blank before the closing quote belongs to the criterion.
-  entries.FindFirst("right(number,10) = '" + lastCharacters(number, 10) + " '");
-  const std::string words =
-      entries.NoMatch() ? numberWords + number : nameWords + entries.field("name");
-  panel_.form5.Show();
-  panel_.form5.Label1.Caption = words;
-}
-
 // +CCWA: "0146290800",145,1
 void Form1::tellOfWaitingCall(Position key) {
-  showCaller(callerNumber(Text1, key), "Call Waiting- ", "Call Waiting-  ");
+  const std::string number = callerNumber(Text1, key);
+  RecordSet* const caller = findCaller(panel_, number);
+  // Unlike at a ring, the prompt is up before the name is read, even where it can't be.
+  panel_.form5.Show();
+  panel_.form5.Label1.Caption =
+      caller == nullptr ? "Call Waiting-  " + number : "Call Waiting- " + caller->field("name");
 }
 
 void Form1::tellOfNoAnswer(Position) { panel_.form3.Label3.Caption = "No Answer.Plz Disconnect"; }
@@ -67,7 +68,14 @@ void Form1::tellOfBusy(Position) { panel_.form3.Label3.Caption = "Busy.Plz Disco
 // A ring without a number opens no prompt, but starts the poll all the same.
 void Form1::tellOfRing(Position) {
   const Position clip = Text1.position("+CLIP:");
-  if (clip != 0) showCaller(callerNumber(Text1, clip), "Call Received From  ", "Call Received-  ");
+  if (clip != 0) {
+    const std::string number = callerNumber(Text1, clip);
+    RecordSet* const caller = findCaller(panel_, number);
+    const std::string words = caller == nullptr ? "Call Received-  " + number
+                                                : "Call Received From  " + caller->field("name");
+    panel_.form5.Show();
+    panel_.form5.Label1.Caption = words;
+  }
   Timer2.Enabled = true;
 }
 

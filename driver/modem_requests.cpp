@@ -46,19 +46,19 @@ Rule ruleOf(const Request& request) {
 }  // namespace
 
 Json Session::reply(const Request& request) {
-  world_->modem.add(ruleOf(request));
+  prepare([rule = ruleOf(request)](HeadlessPanel& world) { world.modem.add(rule); });
   return Json::object();
 }
 
 Json Session::otherwise(const Request& request) {
   if (!request.has("text")) throw BadRequest("field 'text' is missing");
-  world_->modem.setOtherwise(
-      {Rule::Fit::beginning, "", repliesOf(request), request.flag("echo", true)});
+  const Rule rule{Rule::Fit::beginning, "", repliesOf(request), request.flag("echo", true)};
+  prepare([rule](HeadlessPanel& world) { world.modem.setOtherwise(rule); });
   return Json::object();
 }
 
 Json Session::forget(const Request&) {
-  world_->modem.forget();
+  prepare([](HeadlessPanel& world) { world.modem.forget(); });
   return Json::object();
 }
 

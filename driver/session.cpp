@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <utility>
 
 #include "driver/port_list.h"
 
@@ -13,9 +14,9 @@ const Session::Operation* Session::operation(std::string_view name) {
       {"start", &Session::start, false},
       {"run", &Session::run, true},
       {"settle", &Session::settle, true},
-      {"reply", &Session::reply, true},
-      {"otherwise", &Session::otherwise, true},
-      {"forget", &Session::forget, true},
+      {"reply", &Session::reply, false},
+      {"otherwise", &Session::otherwise, false},
+      {"forget", &Session::forget, false},
       {"receive", &Session::receive, true},
       {"event", &Session::event, true},
       {"modem", &Session::modem, true},
@@ -30,7 +31,7 @@ const Session::Operation* Session::operation(std::string_view name) {
       {"minimise", &Session::minimise, true},
       {"restore", &Session::restore, true},
       {"maximise", &Session::maximise, true},
-      {"boxes", &Session::boxes, true},
+      {"boxes", &Session::boxes, false},
       {"answer", &Session::answerBox, true},
       {"get", &Session::get, true},
       {"sent", &Session::sent, true},
@@ -88,8 +89,17 @@ Json Session::start(const Request& request) {
     world_->machine.line.plug(plug->port);
     if (plug->speed) world_->modem.setSpeed(*plug->speed);
   }
+  for (const auto& prepared : std::exchange(preparations_, {})) prepared(*world_);
   world_->start();
   return Json::object();
+}
+
+void Session::prepare(std::function<void(HeadlessPanel& world)> preparation) {
+  if (world_ == nullptr) {
+    preparations_.push_back(std::move(preparation));
+  } else {
+    preparation(*world_);
+  }
 }
 
 Json Session::run(const Request& request) {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/headless_panel.h"
 #include "controls/controls.h"
@@ -70,6 +71,8 @@ class Session {
   Json store(const Request& request);
   std::filesystem::path bookFolder(const Request& request) const;
 
+  /// Prepares the world: at once, or at the start of a program that hasn't been started.
+  void prepare(std::function<void(HeadlessPanel& world)> preparation);
   /// Queues what the user does. An action that returns false was out of the user's reach.
   void act(const Request& request, std::function<bool()> action);
   Json changeWindow(const Request& request, int state);
@@ -84,6 +87,7 @@ class Session {
 
   std::unique_ptr<HeadlessPanel> world_;
   std::filesystem::path folder_;  // the program's own, once it has been started
+  std::vector<std::function<void(HeadlessPanel& world)>> preparations_;  // for the start
   int refused_ = 0;
 };
 

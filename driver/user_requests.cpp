@@ -108,8 +108,9 @@ Json Session::boxes(const Request& request) {
   if (answer != "auto" && answer != "hold") {
     throw BadRequest("field 'answer' must be \"auto\" or \"hold\"");
   }
-  world_->machine.boxes.setAnswer(answer == "hold" ? HeadlessBoxes::Answer::hold
-                                                   : HeadlessBoxes::Answer::automatic);
+  const auto mode =
+      answer == "hold" ? HeadlessBoxes::Answer::hold : HeadlessBoxes::Answer::automatic;
+  prepare([mode](HeadlessPanel& world) { world.machine.boxes.setAnswer(mode); });
   return Json::object();
 }
 

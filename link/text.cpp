@@ -72,10 +72,17 @@ double number(std::string_view text) {
 }
 
 int wholeNumber(std::string_view text) {
-  const double rounded = std::nearbyint(number(text));  // to even, the default rounding mode
+  const std::int64_t whole = wholeCount(text);
   using Limits = std::numeric_limits<std::int16_t>;
-  if (rounded < Limits::min() || rounded > Limits::max()) throw failure::overflow();
-  return static_cast<int>(rounded);
+  if (whole < Limits::min() || whole > Limits::max()) throw failure::overflow();
+  return static_cast<int>(whole);
+}
+
+std::int64_t wholeCount(std::string_view text) {
+  constexpr double kTooLarge = 1e15;
+  const double rounded = std::nearbyint(number(text));  // to even, the default rounding mode
+  if (std::abs(rounded) >= kTooLarge) throw failure::overflow();
+  return static_cast<std::int64_t>(rounded);
 }
 
 int getCountOf(std::string_view text, std::string_view find) {

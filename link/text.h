@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -37,6 +38,10 @@ double number(std::string_view text);
 /// The same as a whole number, a half rounded to the even neighbour. `overflow` when it doesn't fit
 /// 16 bits with sign.
 int wholeNumber(std::string_view text);
+
+/// The same without the bounds of 16 bits, for counts and positions that are plain numbers.
+/// `overflow` above fifteen digits.
+std::int64_t wholeCount(std::string_view text);
 
 /// Counts the occurrences of `find` in `text`, overlapping ones included.
 int getCountOf(std::string_view text, std::string_view find);

@@ -10,8 +10,6 @@ Form10::Form10(Panel& panel) : Window(panel.platform, "Form10"), panel_(panel) {
   Command1.Click = [this] { sendCode(); };
 }
 
-void Form10::Form_Load() { platform().files.changeToProgramFolder(); }
-
 void Form10::showPinForm() {
   Label1.Visible = true;
   Text1.Visible = true;

@@ -24,9 +24,6 @@ class Form10 : public Window {
   /// Shows the PIN's prompt and box without the PUK's.
   void showPinForm();
 
- protected:
-  void Form_Load() override;
-
  private:
   void sendCode();
   void sendPin();

@@ -10,8 +10,6 @@ Form2::Form2(Panel& panel) : FeatureWindow(panel, "Form2", {.Caption = "GSM-Mode
   Command1.Click = [this] { readModelFile(); };
 }
 
-void Form2::Form_Load() { platform().files.changeToProgramFolder(); }
-
 // "View": fills the labels from the file of the last modem. Without a trap: a missing file ends the
 // program. The file stays open until the next revision is saved.
 void Form2::readModelFile() {

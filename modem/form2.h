@@ -21,9 +21,6 @@ class Form2 : public FeatureWindow {
   static constexpr const char* kModelHeading = "ManuFacturer And Model Details ";
   static constexpr const char* kModelFile = "Model.txt";
 
- protected:
-  void Form_Load() override;
-
  private:
   void readModelFile();
 };

@@ -220,8 +220,6 @@ class Form1 : public Window {
 
   // Routing.
   void route();
-  void showCaller(const std::string& number, const std::string& nameWords,
-                  const std::string& numberWords);
 
   Panel& panel_;
   int runningStartUps_ = 0;  // on the handler stack now

@@ -17,6 +17,7 @@ class Form7 : public Window {
   Label Label2{*this, "Label2", {.Caption = "L", .In = &Frame1}};
   Label Label3{*this, "Label3", {.Caption = "H", .In = &Frame1}};
 
+  Shape Shape1{*this, "Shape1", {.In = &Frame1}};  // the outline in which the bars lie
   // The bars, from the left.
   Picture Image1{*this, "Image1", {.In = &Frame1, .Visible = false}};
   Picture Image2{*this, "Image2", {.In = &Frame1, .Visible = false}};

@@ -43,7 +43,7 @@ void Form3::deleteEntry() try {
   }
   Label3.Caption = "Number Deleted";
   List1.RemoveItem(List1.ListIndex);
-  Text2.Text = std::to_string(wholeNumber(Text2.Text.get()) - 1);
+  Text2.Text = std::to_string(wholeCount(Text2.Text.get()) - 1);
   RecordSet& entries = Data1.Recordset();
   entries.FindFirst("INDEX='" + index + "'");
   if (!entries.NoMatch()) entries.Delete();

@@ -27,7 +27,6 @@ Form3::Form3(Panel& panel)
 }
 
 void Form3::Form_Load() {
-  platform().files.changeToProgramFolder();
   Data1.Refresh();
   RecordSet& entries = Data1.Recordset();
   if (entries.isEof() || entries.isBof()) {

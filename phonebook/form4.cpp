@@ -14,7 +14,6 @@ Form4::Form4(Panel& panel)
 }
 
 void Form4::Form_Load() {
-  platform().files.changeToProgramFolder();
   for (TextBox* box : {&Text1, &Text2, &Text3, &Text4}) box->Text = "";
 }
 
@@ -31,15 +30,15 @@ void Form4::addEntry() try {
     return;
   }
   Form3& calls = panel_.form3;
-  const int used = wholeNumber(calls.Text2.Text.get());
-  if (used >= wholeNumber(calls.Text4.Text.get())) {
+  const std::int64_t used = wholeCount(calls.Text2.Text.get());
+  if (used >= wholeCount(calls.Text4.Text.get())) {
     platform().boxes.show("Address Book full", "GSM");
     returnToCalls();
     return;
   }
   // A count plus one, not a search for a free location: after a deletion in the middle the last
   // entry is written over.
-  const int location = used + 1;
+  const std::int64_t location = used + 1;
   const std::string phone = Text1.Text + Text2.Text.get() + Text3.Text.get();
   Form1& form1 = panel_.form1;
   form1.exchange("AT+CPBW=" + std::to_string(location) + "," + phone + ",,\" " + Text4.Text.get() +
@@ -56,7 +55,7 @@ void Form4::addEntry() try {
   // Ends silently.
 }
 
-void Form4::recordEntry(int location, const std::string& phone) {
+void Form4::recordEntry(std::int64_t location, const std::string& phone) {
   Form3& calls = panel_.form3;
   const std::string index = std::to_string(location);
   const std::string name = upperCase(Text4.Text.get());

@@ -31,7 +31,7 @@ class Form4 : public Window {
 
  private:
   void addEntry();
-  void recordEntry(int location, const std::string& phone);
+  void recordEntry(std::int64_t location, const std::string& phone);
   /// Hides this window and not more, so the boxes keep their texts for the next entry.
   void returnToCalls();
 

@@ -12,8 +12,6 @@ Form5::Form5(Panel& panel)
   Command2.Click = [this] { hangUp(); };
 }
 
-void Form5::Form_Load() { platform().files.changeToProgramFolder(); }
-
 // The window stays, so that the call can be ended from it.
 void Form5::answer() try {
   panel_.form1.exchangeOnTop("ATA");

@@ -20,9 +20,6 @@ class Form5 : public Window {
   CommandButton Command1{*this, "Command1", {.Caption = "&Answer", .In = &Frame1}};
   CommandButton Command2{*this, "Command2", {.Caption = "&HangUp", .In = &Frame1}};
 
- protected:
-  void Form_Load() override;
-
  private:
   void answer();
   void hangUp();

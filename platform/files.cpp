@@ -22,12 +22,9 @@ RuntimeFailure openingFailure(const fs::path& path, int error) {
 
 }  // namespace
 
-Files::Files(fs::path programFolder)
-    : programFolder_(std::move(programFolder)), currentFolder_(programFolder_) {}
+Files::Files(fs::path programFolder) : programFolder_(std::move(programFolder)) {}
 
-void Files::changeToProgramFolder() { currentFolder_ = programFolder_; }
-
-fs::path Files::path(const std::string& name) const { return currentFolder_ / name; }
+fs::path Files::path(const std::string& name) const { return programFolder_ / name; }
 
 int Files::freeFile() const {
   int number = 1;

@@ -8,7 +8,7 @@
 namespace gsm {
 
 /// Text files, reached through small numbers as the handlers use them. Names are relative to the
-/// current folder.
+/// program's own folder, which is the current one for the whole run.
 ///
 /// Lines end in CR LF, CR or LF when read, in CR LF when written. Every failure is a
 /// `RuntimeFailure`.
@@ -17,10 +17,7 @@ class Files {
   /// `programFolder` is the folder of the program's own files.
   explicit Files(std::filesystem::path programFolder);
 
-  /// Makes the program's own folder the current one.
-  void changeToProgramFolder();
-
-  /// The full name of `name` in the current folder.
+  /// The full name of `name` in the program's folder.
   std::filesystem::path path(const std::string& name) const;
 
   /// The lowest number that is not in use, from 1.
@@ -58,7 +55,6 @@ class Files {
   std::fstream openStream(int number, const std::string& name, std::ios::openmode mode);
 
   std::filesystem::path programFolder_;
-  std::filesystem::path currentFolder_;
   std::map<int, OpenFile> files_;
 };
 

@@ -15,14 +15,13 @@ constexpr std::array kSpeeds = {"300",  "600",   "1200",  "2400",  "4800",
 constexpr std::array kParityLetters = {"E", "O", "N"};
 constexpr int kOk = 0;
 
-// Runs `statement`; whether it has gone through. A failure is skipped.
+// Runs `statement`. A failure is skipped.
 template <class Statement>
-bool attempt(Statement&& statement) {
+void attempt(Statement&& statement) {
   try {
     statement();
-    return true;
   } catch (const RuntimeFailure&) {
-    return false;
+    // Goes on with what stands next.
   }
 }
 
@@ -46,7 +45,6 @@ frmSettings::frmSettings(Panel& panel) : Window(panel.platform, "frmSettings"), 
 }
 
 void frmSettings::Form_Load() {
-  platform().files.changeToProgramFolder();
   Caption = "Scanning available comm hardware...";
   for (CommandButton& button : cmdAction) button.Enabled = false;
   Centred = true;

@@ -45,7 +45,6 @@ void Form1::Form_Load() {
 
 void Form1::startFromFile() {
   Files& files = platform().files;
-  files.changeToProgramFolder();
   const LocalTime now = platform().clock.localTime();
   Label9.Caption = "System Started  " + now.date() + "," + now.timeOfDay();
   List1.AddItem("                      Welcome To Ormalin Telecom Application");

@@ -275,6 +275,10 @@ void PanelPlayer::look() {
   const int depth = world_->handlers().depth();
   problem_ = book_.problem();
   if (depth > kDeepest) problem_ = std::to_string(depth) + " handlers on the stack";
+  for (const Window* window : world_->panel.platform.windows) {
+    const bool dead = window->Visible.peek() && !window->isLoaded();
+    if (dead) problem_ = window->name() + " is on view and not loaded";
+  }
   if (!world_->machine.time.hasEnded()) {
     boxWasHeld_ = boxWasHeld_ || world_->machine.boxes.isUp();
     world_->machine.boxes.takeShown();

@@ -42,8 +42,7 @@ bool isPartOfAnother(const QWidget& widget) {
 
 // What is only there for the eye, with nothing that a handler could refer to.
 bool isDecoration(const QWidget& widget) {
-  return widget.objectName().isEmpty() || widget.objectName().startsWith("deco") ||
-         widget.objectName().startsWith("Shape");
+  return widget.objectName().isEmpty() || widget.objectName().startsWith("deco");
 }
 
 class FormsTest : public DesktopTest {

@@ -201,6 +201,25 @@ TEST_F(EchoValues, ChangeTheFrameWithTheAlgorithm) {
   EXPECT_TRUE(panel().form6.Frame7.Visible.peek());
 }
 
+TEST_F(EchoValues, AreFoundBehindMoreTextThanSixteenBitsCount) {
+  for (const std::size_t length : {32'700U, 32'766U, 32'767U, 70'000U}) {
+    leaveInTranscript(std::string(length, '.'));
+    receive("+ECHO: 0,1,15,3,10,7\r\n\r\n");
+    settle();
+    expectShown({"",
+                 "",
+                 "Echo Current Values--0,1,15,3,10,7\r\n\r\n",
+                 "0",
+                 "1",
+                 {15, 3, 10, 7, 5, 5, 100},
+                 true,
+                 false,
+                 ""});
+    inPanel([this] { panel().form6.Label7.Caption = kBefore; });
+    run(0);
+  }
+}
+
 TEST_F(EchoValues, OfNoPositionAreNone) {
   leaveInTranscript("0,1,15,3,10,7\r\n\r\n");
   inPanel([this] { form1().ShowEchoValues("0"); });

@@ -24,6 +24,7 @@ class TestWindow : public Window {
   Picture Image1{*this, "Image1"};
   TextBox Text1{*this, "Text1", {.Text = "design"}};
   TextBox Text2{*this, "Text2", {.MaxLength = 4}};
+  TextBox Text3{*this, "Text3", {.MultiLine = true}};
   ComboBox Combo1{*this, "Combo1"};
   ComboBox Combo2{*this, "Combo2", {.Style = ComboStyle::dropDownList}};
   ListBox List1{*this, "List1"};

@@ -3,6 +3,7 @@
 #include <cctype>
 
 #include "tests/controls/window_fixture.h"
+#include "tests/support/rows.h"
 
 namespace gsm {
 namespace {
@@ -10,6 +11,7 @@ namespace {
 class TextBoxTest : public WindowTest {
  protected:
   TextBox& box() { return window.Text1; }
+  TextBox& lines() { return window.Text3; }
   TextBox& shortBox() { return window.Text2; }  // takes four characters
 };
 
@@ -146,6 +148,136 @@ TEST_F(TextBoxTest, TheCaretStaysWithinTheText) {
   EXPECT_EQ(box().SelStart.get(), 5);
   box().SelStart = -1;
   EXPECT_EQ(box().SelStart.get(), 0);
+}
+
+TEST_F(TextBoxTest, TheCaretFallsToTheBeginningWhenTheTextIsCleared) {
+  box().Text = "12345";
+  box().SelStart = 3;
+  box().Text = "";
+  EXPECT_EQ(box().SelStart.get(), 0);
+  box().Text = "12345";
+  EXPECT_EQ(box().SelStart.get(), 0);
+  box().userErase();
+  EXPECT_EQ(box().SelStart.get(), 0);
+}
+
+TEST_F(TextBoxTest, TheCaretStaysWithinAShorterText) {
+  box().Text = "12345";
+  box().SelStart = 4;
+  box().Text = "123";
+  EXPECT_EQ(box().SelStart.get(), 3);
+  EXPECT_TRUE(box().userEdit("ab\1", 3));
+  EXPECT_EQ(box().SelStart.get(), 2);
+  box().Change = [this] {
+    if (!box().Text.empty()) box().Text = "";
+  };
+  box().userType("x");
+  EXPECT_EQ(box().SelStart.get(), 0);
+}
+
+TEST_F(TextBoxTest, AChangeSeesTheCaretWithinTheText) {
+  box().Text = "12345";
+  box().SelStart = 5;
+  box().Change = [this] { note(std::to_string(box().SelStart)); };
+  box().Text = "";
+  EXPECT_EQ(takeNotes(), Notes({"0"}));
+}
+
+struct InputRow {
+  std::string name;
+  std::string given;
+  std::string taken;
+};
+
+class LineInput : public TextBoxTest, public ::testing::WithParamInterface<InputRow> {
+ protected:
+  std::string given() { return GetParam().given; }
+  std::string taken() { return GetParam().taken; }
+};
+
+TEST_P(LineInput, IsTakenByABoxAsTyped) {
+  box().Text = "";
+  EXPECT_TRUE(box().userType(given()));
+  EXPECT_EQ(box().Text.get(), taken());
+  EXPECT_EQ(box().SelStart.get(), static_cast<int>(taken().size()));
+}
+
+TEST_P(LineInput, IsTakenByABoxAsPasted) {
+  EXPECT_TRUE(box().userEdit(given(), static_cast<int>(given().size())));
+  EXPECT_EQ(box().Text.get(), taken());
+  EXPECT_EQ(box().SelStart.get(), static_cast<int>(taken().size()));
+}
+
+TEST_P(LineInput, IsTakenByAnEditableComboAsTypedAndPasted) {
+  EXPECT_TRUE(window.Combo1.userType(given()));
+  EXPECT_EQ(window.Combo1.Text.get(), taken());
+  EXPECT_TRUE(window.Combo1.userEdit(given()));
+  EXPECT_EQ(window.Combo1.Text.get(), taken());
+}
+
+TEST_P(LineInput, IsKeptWholeWhereAHandlerAssignsIt) {
+  box().Text = given();
+  EXPECT_EQ(box().Text.get(), given());
+  window.Combo1.Text = given();
+  EXPECT_EQ(window.Combo1.Text.get(), given());
+  // What the user types afterwards touches nothing of it.
+  box().userType("x");
+  EXPECT_EQ(box().Text.get(), given() + "x");
+  window.Combo1.userType("x");
+  EXPECT_EQ(window.Combo1.Text.get(), given() + "x");
+}
+
+TEST_P(LineInput, IsKeptWholeByABoxOfManyLines) {
+  EXPECT_TRUE(lines().userEdit(given(), 0));
+  EXPECT_EQ(lines().Text.get(), given());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, LineInput,
+    ::testing::Values(
+        InputRow{.name = "OfPlainText", .given = "Al'\"b, 1", .taken = "Al'\"b, 1"},
+        InputRow{.name = "OfACommandAfterALine", .given = "1\rATD112;\r", .taken = "1"},
+        InputRow{.name = "OfALineFeed", .given = "12\n34", .taken = "12"},
+        InputRow{.name = "OfBothLineEnds", .given = "12\r\n34", .taken = "12"},
+        InputRow{.name = "OfALineEndAlone", .given = "\r", .taken = ""},
+        InputRow{.name = "OfALineEndAtOnce", .given = "\nATH", .taken = ""},
+        InputRow{.name = "OfATab", .given = "1\t2", .taken = "12"},
+        InputRow{.name = "OfTheByteZero", .given = std::string("1\0002", 3), .taken = "12"},
+        InputRow{.name = "OfTheEndOfAMessage", .given = "1\x1A\x1B\x7F", .taken = "1"},
+        InputRow{.name = "OfHighCharacters", .given = "\x80\x9F\xFF", .taken = "\x80\x9F\xFF"}),
+    RowName());
+
+TEST_F(TextBoxTest, ABoxOfManyLinesTakesLineEndsAsTyped) {
+  EXPECT_TRUE(lines().userType("one\r\ntwo\tthree"));
+  EXPECT_EQ(lines().Text.get(), "one\r\ntwo\tthree");
+}
+
+TEST_F(TextBoxTest, EveryControlCharacterIsDroppedOneByOne) {
+  for (int code = 0; code < 256; ++code) {
+    const char character = static_cast<char>(code);
+    if (character == '\r' || character == '\n' || character == TextBox::kBackspace) continue;
+    const bool isControl = code < 0x20 || code == 0x7F;
+    const std::string keys = std::string("a") + character + "b";
+    box().Text = "";
+    box().userType(keys);
+    EXPECT_EQ(box().Text.get(), isControl ? "ab" : keys) << code;
+    box().userEdit(keys, 0);
+    EXPECT_EQ(box().Text.get(), isControl ? "ab" : keys) << code;
+  }
+}
+
+TEST_F(TextBoxTest, TheKeyFilterSeesNoControlCharacterButBackspace) {
+  shortBox().KeyPress = [this](int key) {
+    note(std::to_string(key));
+    return key;
+  };
+  shortBox().userType("1\t\x1A\b2\r3");
+  EXPECT_EQ(takeNotes(), Notes({"49", "8", "50"}));
+}
+
+TEST_F(TextBoxTest, TheLimitCountsWhatIsTaken) {
+  shortBox().userEdit("1\t2\t3\t4\t5", 0);
+  EXPECT_EQ(shortBox().Text.get(), "1234");
 }
 
 TEST_F(TextBoxTest, TextsOfEveryByteAreKept) {

@@ -65,17 +65,84 @@ TEST_F(RunRequests, AStartThatIsRefusedMayBeTriedAgain) {
   run(1);
 }
 
-TEST_F(RunRequests, NothingButTheStartWorksBeforeIt) {
+TEST_F(RunRequests, WhatNeedsAProgramIsRefusedBeforeTheStart) {
   for (const char* line :
        {R"({"op":"run","seconds":1})", R"({"op":"settle"})", R"({"op":"state"})",
-        R"({"op":"sent"})", R"({"op":"shown"})", R"({"op":"forget"})",
-        R"({"op":"get","property":"Form1.Caption"})", R"({"op":"receive","text":"x"})",
-        R"({"op":"click","control":"Form1.Command8"})", R"({"op":"close","window":"Form1"})",
-        R"({"op":"modem","port":3})", R"({"op":"ports","ports":[]})", R"({"op":"answer"})",
-        R"({"op":"boxes","answer":"hold"})", R"({"op":"event","value":3})",
-        R"({"op":"reply","write":"AT\r","text":""})", R"({"op":"otherwise","text":""})"}) {
+        R"({"op":"sent"})", R"({"op":"shown"})", R"({"op":"get","property":"Form1.Caption"})",
+        R"({"op":"receive","text":"x"})", R"({"op":"click","control":"Form1.Command8"})",
+        R"({"op":"close","window":"Form1"})", R"({"op":"modem","port":3})",
+        R"({"op":"ports","ports":[]})", R"({"op":"answer"})", R"({"op":"event","value":3})"}) {
     EXPECT_TRUE(isRefused(line));
   }
+}
+
+TEST_F(RunRequests, TheModemsRepliesMayComeBeforeTheStart) {
+  layComFile("9600,N,8,1 3\r\n");
+  tell({{"op", "otherwise"}, {"text", "first"}});
+  tell({{"op", "forget"}});
+  tell({{"op", "reply"}, {"starting", "AT+CGSN"}, {"text", "forgotten by none"}});
+  tell({{"op", "reply"}, {"write", "AT+CGSN\r"}, {"text", "\r\n012345678901234\r\n\r\nOK\r\n"}});
+  tell({{"op", "otherwise"}, {"text", "\r\nwhat?\r\n"}});
+  start();
+  EXPECT_EQ(sent(), Texts());
+  settle();
+  EXPECT_EQ(get("Form2.Label3.Caption"), "012345678901234");
+  EXPECT_EQ(sent(), (Texts{"AT+CGSN\r", "AT\r"}));
+  receive("x");
+  run(3);
+  EXPECT_EQ(transcript(), "x");
+  click("Form1.Label8");
+  run(1);
+  EXPECT_EQ(transcript(), "xAT\r\r\nwhat?\r\n");
+}
+
+TEST_F(RunRequests, ForgettingBeforeTheStartDropsWhatCameBeforeIt) {
+  layComFile("9600,N,8,1 3\r\n");
+  tell({{"op", "reply"}, {"write", "AT+CGSN\r"}, {"text", "\r\n012345678901234\r\n\r\nOK\r\n"}});
+  tell({{"op", "otherwise"}, {"text", "OK"}});
+  tell({{"op", "forget"}});
+  start();
+  run(1);
+  EXPECT_EQ(transcript(), "");
+}
+
+TEST_F(RunRequests, HowBoxesGoMayBeSaidBeforeTheStart) {
+  layComFile("\r\n");
+  tell({{"op", "boxes"}, {"answer", "hold"}});
+  Json request = startRequest();
+  request["ports"] = Json::array();
+  tell(request);
+  run(5);
+  EXPECT_EQ(shown(), Texts{"No Comm Ports Present"});
+  EXPECT_EQ(state()["waiting"], 1);
+  tell({{"op", "answer"}});
+  settle();
+  EXPECT_EQ(state()["waiting"], 0);
+}
+
+TEST_F(RunRequests, WhatIsRefusedBeforeTheStartPreparesNothing) {
+  layComFile("9600,N,8,1 3\r\n");
+  for (const char* line : {R"({"op":"boxes","answer":"later"})", R"({"op":"boxes"})",
+                           R"({"op":"reply","write":"AT+CGSN\r"})", R"({"op":"reply","text":"OK"})",
+                           R"({"op":"reply","starting":"AT","texts":[]})", R"({"op":"otherwise"})",
+                           R"({"op":"otherwise","text":"OK","after":-1})"}) {
+    EXPECT_TRUE(isRefused(line));
+  }
+  EXPECT_TRUE(isRefused(R"({"op":"start"})"));
+  start();
+  run(1);
+  EXPECT_EQ(transcript(), "");
+}
+
+TEST_F(RunRequests, WhatIsPreparedOutlivesAStartThatIsRefused) {
+  layComFile("9600,N,8,1 3\r\n");
+  tell({{"op", "otherwise"}, {"text", "\r\nwhat?\r\n"}});
+  Json bad = startRequest();
+  bad["now"] = "soon";
+  EXPECT_TRUE(isRefused(bad.dump()));
+  start();
+  run(1);
+  EXPECT_EQ(transcript(), "AT+CGSN\r\r\nwhat?\r\n");
 }
 
 TEST_F(RunRequests, ARunTakesExactlyItsTime) {

@@ -67,6 +67,17 @@ TEST(Text, WholeNumbersRoundHalfToEvenAndOverflowBeyondSixteenBits) {
   EXPECT_EQ(failureOf([] { wholeNumber("1e400"); }), 6);
 }
 
+TEST(Text, WholeCountsRoundTheSameAndGoBeyondSixteenBits) {
+  EXPECT_EQ(wholeCount("2.5"), 2);
+  EXPECT_EQ(wholeCount("3.5"), 4);
+  EXPECT_EQ(wholeCount("40000\r"), 40000);
+  EXPECT_EQ(wholeCount("-40000"), -40000);
+  EXPECT_EQ(wholeCount("999999999999999"), 999'999'999'999'999);
+  EXPECT_EQ(failureOf([] { wholeCount("1e15"); }), 6);
+  EXPECT_EQ(failureOf([] { wholeCount("-1e15"); }), 6);
+  EXPECT_EQ(failureOf([] { wholeCount("x"); }), 13);
+}
+
 TEST(Text, OverlappingOccurrencesCount) {
   EXPECT_EQ(getCountOf("aaa", "aa"), 2);
   EXPECT_EQ(getCountOf("", "a"), 0);

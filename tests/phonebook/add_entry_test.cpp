@@ -158,6 +158,42 @@ TEST_F(AddEntry, ComparesTheCountsAsNumbers) {
   EXPECT_EQ(used(), "10");
 }
 
+TEST_F(AddEntry, CountsBeyondSixteenBits) {
+  openAdd("50000", "40000");
+  fill("", "", "113", "Al");
+  ok();
+  EXPECT_EQ(sent(), Texts{"AT+CPBW=40001,113,,\" Al\"\r"});
+  EXPECT_EQ(rows().back(), "40001  113                 AL");
+  EXPECT_EQ(storedEntries().back(), (BookRow{"40001", "113", "AL"}));
+  EXPECT_EQ(storedCounts(), (BookRows{{"50000", "40001"}}));
+  EXPECT_EQ(used(), "40001");
+}
+
+TEST_F(AddEntry, ComparesCountsBeyondSixteenBits) {
+  openAdd("40000", "40000");
+  fill("", "", "113", "Al");
+  ok();
+  expectBox("Address Book full");
+  EXPECT_EQ(sent(), Texts{});
+}
+
+TEST_F(AddEntry, RoundsCountsThatAreNotWholeHalfToEven) {
+  openAdd("100", "2.5");
+  fill("", "", "113", "Al");
+  ok();
+  EXPECT_EQ(sent(), Texts{"AT+CPBW=3,113,,\" Al\"\r"});
+  EXPECT_EQ(used(), "3");
+  // The stored count is looked for as it was rounded, and isn't found.
+  EXPECT_EQ(storedCounts(), (BookRows{{"100", "2.5"}}));
+}
+
+TEST_F(AddEntry, RoundsATotalThatIsNotWholeHalfToEven) {
+  openAdd("2.5", "2");
+  fill("", "", "113", "Al");
+  ok();
+  expectBox("Address Book full");
+}
+
 TEST_F(AddEntry, WithoutCountsDoesNothing) {
   layEntries({{"1", "112", "HELP"}});
   openCalls();

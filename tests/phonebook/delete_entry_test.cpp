@@ -2,6 +2,7 @@
 
 #include "phonebook/form4.h"
 #include "tests/phonebook/phone_book_test.h"
+#include "tests/support/rows.h"
 
 namespace gsm {
 namespace {
@@ -87,6 +88,34 @@ TEST_F(DeleteEntry, InTheMiddleLetsTheNextAddWriteOverTheLastLocation) {
   EXPECT_EQ(storedCounts(), (BookRows{{"100", "5"}}));
   EXPECT_EQ(used(), "5");
 }
+
+struct UsedRow {
+  std::string name;
+  std::string before;
+  std::string after;
+};
+
+class DeleteEntryOfABook : public DeleteEntry, public ::testing::WithParamInterface<UsedRow> {};
+
+TEST_P(DeleteEntryOfABook, TakesOneOffTheUsedCount) {
+  layEntries({{"1", "111", "ONE"}});
+  layCounts("50000", GetParam().before);
+  openCalls();
+  reply("AT+CPBW=1", kOk);
+  remove(0);
+  EXPECT_EQ(callStatus(), "Number Deleted");
+  EXPECT_EQ(used(), GetParam().after);
+  EXPECT_EQ(storedEntries(), BookRows{});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, DeleteEntryOfABook,
+    ::testing::Values(UsedRow{.name = "BeyondSixteenBits", .before = "40000", .after = "39999"},
+                      UsedRow{.name = "AtTheirEnd", .before = "32768", .after = "32767"},
+                      UsedRow{.name = "OfAHalfToTheEvenBelow", .before = "2.5", .after = "1"},
+                      UsedRow{.name = "OfAHalfToTheEvenAbove", .before = "3.5", .after = "3"},
+                      UsedRow{.name = "OfNothing", .before = "0", .after = "-1"}),
+    RowName());
 
 TEST_F(DeleteEntry, OfNoneSelectedAsksForOne) {
   openBook();

@@ -152,6 +152,19 @@ TEST_P(FailingLookUp, OpensNoPromptAndKeepsTheRing) {
   expectSilentEnd(4);
 }
 
+// The prompt of a waiting call is up before the name is read.
+TEST_P(FailingLookUp, OfAWaitingCallOpensThePromptBeforeTheName) {
+  inPanel([this] { prompt().Label1.Caption = "as it was"; });
+  run(0);
+  failFromNow();
+  route(unsolicited("+CCWA: \"112\",129,1"));
+  const bool lookedUp = GetParam() > 3;
+  const bool found = GetParam() > 4;
+  EXPECT_EQ(promptUp(), lookedUp);
+  EXPECT_EQ(caller(), found ? "Call Waiting- TWO" : "as it was");
+  expectSilentEnd(4);
+}
+
 INSTANTIATE_TEST_SUITE_P(AtOperation, FailingLookUp, ::testing::Range(1, 6));
 
 // The criteria, to the letter: another engine may count the blank in the caller's.

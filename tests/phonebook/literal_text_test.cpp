@@ -207,7 +207,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, OddCount,
                                            CountRow{"OfAWord", "one", "100"},
                                            CountRow{"OfNoTotal", "1", ""},
                                            CountRow{"OfATotalInWords", "1", "all"},
-                                           CountRow{"BeyondSixteenBits", "32768", "99999"}),
+                                           CountRow{"BeyondFifteenDigits", "1e15", "2e15"}),
                          RowName());
 
 }  // namespace

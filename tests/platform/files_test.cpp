@@ -165,8 +165,6 @@ TEST_F(FilesTest, ClosingOneKeepsTheOthersOpen) {
 
 TEST_F(FilesTest, NamesAreRelativeToTheProgramsFolder) {
   EXPECT_EQ(files().path("COM.txt"), folder().path() / "COM.txt");
-  files().changeToProgramFolder();
-  EXPECT_EQ(files().path("COM.txt"), folder().path() / "COM.txt");
 }
 
 TEST_F(FilesTest, TheEndOfTheProgramClosesFiles) {

@@ -3,6 +3,7 @@
 #include "panel/form1.h"
 #include "panel/form7.h"
 #include "platform/runtime_failure.h"
+#include "startup/frm_settings.h"
 #include "tests/support/modem_bytes.h"
 #include "tests/support/panel_fixture.h"
 
@@ -113,6 +114,55 @@ TEST_F(AcceptPort, SavesUnderANumberThatOtherOpenFilesLeaveFreeAndClosesThem) {
   accept(3, "9600,n,8,1");
   EXPECT_EQ(file("COM.txt"), "9600,N,8,1 3\r\n");
   EXPECT_THROW(machine().files.atEnd(2), RuntimeFailure);
+}
+
+// All three ways in clear the transcript once the port is accepted, so that nobody finds what came
+// meanwhile: here a reply to the question for the SIM that nothing claims.
+class AcceptedPort : public PanelTest {
+ protected:
+  void startBefore(const std::string& comFile) {
+    layComFile(comFile);
+    start({.ports = {{.number = 3}}, .modemSpeed = 300});
+    reply("AT+CGSN", kImeiReply);
+    reply("AT", kOk);
+    reply("AT+CPIN?", information("+SIM: a word that nothing claims"));
+  }
+  void expectClearedAfterTheQuestion() {
+    const Texts written = sent();
+    ASSERT_FALSE(written.empty());
+    EXPECT_EQ(written.back(), "AT+CPIN?\r");
+    EXPECT_EQ(portNumber(), "Port 3");
+    EXPECT_EQ(transcript(), "");
+    EXPECT_EQ(waiting(), 0);
+  }
+  std::string portNumber() { return form1().Label2.Caption.peek(); }
+};
+
+TEST_F(AcceptedPort, ThatWasSavedLeavesNoTranscript) {
+  startBefore("300,N,8,1 3\r\n");
+  settle();
+  expectClearedAfterTheQuestion();
+}
+
+TEST_F(AcceptedPort, OfASweepLeavesNoTranscript) {
+  startBefore("\r\n");
+  settle();
+  expectClearedAfterTheQuestion();
+}
+
+TEST_F(AcceptedPort, OfThePortSettingsLeavesNoTranscript) {
+  startBefore("");
+  settle();
+  inPanel([this] {
+    form1().MSComm1.CommPort = 3;
+    form1().MSComm1.Settings = std::string("300,n,8,1");
+    form1().MSComm1.PortOpen = true;
+  });
+  run(0);
+  click(form1().Command7);
+  click(panel().settings.cmdAction[1]);
+  settle();
+  expectClearedAfterTheQuestion();
 }
 
 }  // namespace

@@ -24,11 +24,6 @@ class MainWindow : public OpenPortTest {
   }
 };
 
-TEST_F(MainWindow, HasItsTitle) {
-  EXPECT_EQ(form1().Caption.peek(), "GSM-APPLICATION");
-  EXPECT_EQ(form1().Label8.Caption.peek(), "<<Signal>>");
-}
-
 TEST_F(MainWindow, TakesTheStatusWindowWithItWhenMinimisedAndBackAgain) {
   state(WindowState::minimised);
   EXPECT_EQ(statusWindowState(), WindowState::minimised);

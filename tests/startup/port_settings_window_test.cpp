@@ -11,30 +11,6 @@ namespace {
 // The port settings window as it comes up.
 class PortSettingsWindow : public PortSettingsTest {};
 
-TEST_F(PortSettingsWindow, HasItsDesign) {
-  startWith({{.number = 3}});
-  openWindow();
-  frmSettings& form = window();
-  EXPECT_EQ(form.fraPort.Caption.peek(), "Comm Port");
-  EXPECT_EQ(form.fraBaud.Caption.peek(), "Baud Rate");
-  EXPECT_EQ(form.fraParity.Caption.peek(), "Parity");
-  EXPECT_EQ(form.fraDataBits.Caption.peek(), "Data Bits");
-  EXPECT_EQ(form.fraStopBits.Caption.peek(), "Stop Bits");
-  EXPECT_EQ(form.fraHandshake.Caption.peek(), "Handshaking");
-  const auto captions = [](auto& controls) {
-    Texts texts;
-    for (auto& control : controls) texts.push_back(control.Caption.peek());
-    return texts;
-  };
-  EXPECT_EQ(captions(form.optParity), (Texts{"Even", "Odd", "None"}));
-  EXPECT_EQ(captions(form.optDataBits), (Texts{"7 Bit", "8 Bit"}));
-  EXPECT_EQ(captions(form.optStopBits), (Texts{"1 Bit", "2  Bit"}));
-  EXPECT_EQ(captions(form.optHandshake), (Texts{"None", "Xon", "RTS", "Both"}));
-  EXPECT_EQ(captions(form.cmdAction), (Texts{"OK", "Cancel"}));
-  EXPECT_FALSE(form.cboPort.isEditable());
-  EXPECT_FALSE(form.cboBaud.isEditable());
-}
-
 TEST_F(PortSettingsWindow, ListsTheTenSpeeds) {
   startWith({{.number = 3}});
   openWindow();

@@ -1,4 +1,6 @@
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QListWidget>
 
@@ -113,6 +115,17 @@ TEST_F(ListViewsTest, TypingSelectsNothingAndDoesntClick) {
   EXPECT_EQ(window_.Combo1.ListIndex.peek(), -1);
   EXPECT_EQ(combo_.currentText(), "onex");
   EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(ListViewsTest, APastedLineBreakEndsTheTextOfACombo) {
+  QGuiApplication::clipboard()->setText("1\t2\rATD112;\r");
+  for (const char* why : {"it is cut", "it is cut though the text of the combo is the same"}) {
+    combo_.lineEdit()->selectAll();
+    combo_.lineEdit()->paste();
+    settle();
+    EXPECT_EQ(window_.Combo1.Text.peek(), "12");
+    EXPECT_EQ(combo_.currentText(), "12") << why;
+  }
 }
 
 TEST_F(ListViewsTest, TypingAnItemsTextDoesntPickIt) {

@@ -1,3 +1,5 @@
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -80,6 +82,21 @@ TEST_F(TextViewsTest, ACharacterThatTheCodePageLacksShowsAsAQuestionMark) {
   type(line_, QString::fromUtf8("ж"));
   settle();
   EXPECT_EQ(line_.text(), "?") << "though the text of the box is the same";
+}
+
+TEST_F(TextViewsTest, APastedLineBreakEndsALine) {
+  window_.Text1.Text = "";
+  QGuiApplication::clipboard()->setText("1\t2\rATD112;\r");
+  line_.paste();
+  settle();
+  EXPECT_EQ(window_.Text1.Text.peek(), "12");
+  EXPECT_EQ(line_.text(), "12");
+  QGuiApplication::clipboard()->setText("\rATD112;\r");
+  line_.end(false);
+  line_.paste();
+  settle();
+  EXPECT_EQ(window_.Text1.Text.peek(), "12");
+  EXPECT_EQ(line_.text(), "12") << "though the text of the box is the same";
 }
 
 TEST_F(TextViewsTest, AMaskedBoxShowsNoCharacters) {
@@ -168,9 +185,11 @@ TEST_F(TextViewsTest, MarkupStandsAsItIs) {
   EXPECT_EQ(lines_.toPlainText(), "<b>x</b>");
 }
 
-TEST_F(TextViewsTest, EveryByteComesThroughALineUnharmed) {
+TEST_F(TextViewsTest, EveryByteThatIsNoControlComesThroughALineUnharmed) {
   std::string all;
-  for (int byte = 32; byte < 256; ++byte) all += static_cast<char>(byte);
+  for (int byte = 32; byte < 256; ++byte) {
+    if (byte != 127) all += static_cast<char>(byte);
+  }
   window_.Text1.Text = all;
   line_.end(false);
   type(line_, "!");

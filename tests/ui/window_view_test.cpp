@@ -85,6 +85,21 @@ TEST_F(WindowViewTest, TheUserMinimisesAndRestores) {
   EXPECT_EQ(window_.story, "load resize resize ");
 }
 
+TEST_F(WindowViewTest, TheUserWhoMinimisesAndRestoresAtOnceHasChangedNothing) {
+  bind(window_);
+  form().setWindowState(Qt::WindowMinimized);
+  form().setWindowState(Qt::WindowNoState);
+  settle();
+  EXPECT_EQ(window_.WindowState.peek(), WindowState::normal);
+  EXPECT_FALSE(form().isMinimized());
+  form().setWindowState(Qt::WindowMinimized);
+  form().setWindowState(Qt::WindowMaximized);
+  settle();
+  EXPECT_EQ(window_.WindowState.peek(), WindowState::maximised);
+  EXPECT_TRUE(form().isMaximized());
+  EXPECT_EQ(window_.story, "load resize ");
+}
+
 TEST_F(WindowViewTest, ThePanelMinimisesAndRestores) {
   bind(window_);
   window_.WindowState = WindowState::minimised;

@@ -21,6 +21,7 @@ std::unique_ptr<ControlView> make(Control& control, QWidget& widget, const UserA
 constexpr decltype(&make<LabelView, Label, QLabel>) kMakers[] = {
     make<LabelView, Label, QLabel>,
     make<PictureView, Picture, QWidget>,
+    make<ShapeView, Shape, QWidget>,
     make<FrameView, Frame, QWidget>,
     make<ButtonView, CommandButton, QPushButton>,
     make<OptionView, OptionButton, QRadioButton>,

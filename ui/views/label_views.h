@@ -35,6 +35,16 @@ class PictureView : public ViewOf<Picture, QWidget> {
   void show(PropertyId) override {}
 };
 
+/// A figure, which the form draws.
+class ShapeView : public ViewOf<Shape, QWidget> {
+ public:
+  ShapeView(Shape& control, QWidget& widget, const UserActions& actions)
+      : ViewOf(control, widget, actions) {}
+
+ protected:
+  void show(PropertyId) override {}
+};
+
 /// A frame. Its caption is shown as it stands; a widget without a title shows none.
 class FrameView : public ViewOf<Frame, QWidget> {
  public:

@@ -4,6 +4,7 @@
 #include <QSignalBlocker>
 #include <algorithm>
 
+#include "controls/text_box.h"
 #include "platform/qt/text_codec.h"
 #include "ui/views/screen_text.h"
 
@@ -62,7 +63,11 @@ ComboView::ComboView(ComboBox& control, QComboBox& widget, const UserActions& ac
 
 // What the box holds by then, as with a text box.
 void ComboView::takeTyping() {
-  actions().post([this] { return control_.userEdit(fromQt(widget_.currentText())); });
+  actions().post([this] {
+    const std::string line = singleLine(fromQt(widget_.currentText()));
+    if (toQt(line) != widget_.currentText()) widget_.setEditText(toQt(line));
+    return control_.userEdit(line);
+  });
 }
 
 void ComboView::show(PropertyId property) {

@@ -91,7 +91,7 @@ QString LineView::shownText() const { return widget_.text(); }
 
 QString LineView::forWidget(const std::string& text) const { return toQt(text); }
 
-std::string LineView::forPanel(const QString& text) const { return fromQt(text); }
+std::string LineView::forPanel(const QString& text) const { return singleLine(fromQt(text)); }
 
 void LineView::setShownText(const QString& text) {
   const int position = widget_.cursorPosition();

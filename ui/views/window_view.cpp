@@ -144,12 +144,15 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
     return true;
   }
   if (event->type() == QEvent::WindowStateChange) {
-    const int state = panelState(form_->windowState());
-    if (state != window_.WindowState.peek()) {
-      actions_.post([this, state] { return window_.userState(state); });
-    }
+    actions_.post([this] { return takeState(); });
   }
   return false;
+}
+
+// The state as it is by now: it may have changed more than once since the desktop told of it.
+bool WindowView::takeState() {
+  const int state = panelState(form_->windowState());
+  return state == window_.WindowState.peek() || window_.userState(state);
 }
 
 }  // namespace gsm

@@ -35,6 +35,7 @@ class WindowView : public QObject, public View {
   void showState();
   void showTopMost();
   void centreIfAsked();
+  bool takeState();
 
   Window& window_;
   const std::unique_ptr<QWidget> form_;

@@ -4,7 +4,7 @@
 
 #include <fstream>
 
-#include "tests/simulator/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace gsm::pty {
 namespace {
@@ -13,8 +13,8 @@ namespace fs = std::filesystem;
 
 class DeviceLinkTest : public testing::Test {
  protected:
-  ScratchFolder folder_;
-  const std::string path_ = folder_.file("modem");
+  TemporaryFolder folder_;
+  const std::string path_ = (folder_.path() / "modem").string();
 };
 
 TEST_F(DeviceLinkTest, PointsToTheDeviceWhileItLives) {
@@ -48,7 +48,8 @@ TEST_F(DeviceLinkTest, LeavesALinkToSomethingElseAsItIs) {
 }
 
 TEST_F(DeviceLinkTest, FailsWhereNoLinkCanBe) {
-  EXPECT_THROW(DeviceLink(folder_.file("none/modem"), "/dev/null"), std::system_error);
+  EXPECT_THROW(DeviceLink((folder_.path() / "none/modem").string(), "/dev/null"),
+               std::system_error);
 }
 
 TEST_F(DeviceLinkTest, DoesntRemoveALinkThatAnotherHasTakenOver) {

@@ -5,7 +5,7 @@
 #include <fstream>
 
 #include "simulator/host/text_file.h"
-#include "tests/simulator/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace gsm::pty {
 namespace {
@@ -23,8 +23,8 @@ class FilePhoneBookTest : public testing::Test {
 
   void write(std::string_view text) { std::ofstream(path_, std::ios::binary) << text; }
 
-  ScratchFolder folder_;
-  std::string path_ = folder_.file("book");
+  TemporaryFolder folder_;
+  std::string path_ = (folder_.path() / "book").string();
   FilePhoneBook book_{path_};
   PhoneBookEntries loaded_;
 };
@@ -70,7 +70,7 @@ TEST_F(FilePhoneBookTest, FileThatIsNoPhoneBookAtAllIsRefused) {
 
 TEST_F(FilePhoneBookTest, SavingWhereItCantFailsWithAComplaint) {
   testing::internal::CaptureStderr();
-  const std::string elsewhere = folder_.file("none/book");
+  const std::string elsewhere = (folder_.path() / "none/book").string();
   EXPECT_FALSE(FilePhoneBook(elsewhere).save("1\t112\tHelp\n"));
   EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "phone book " + elsewhere + " can't be written\n");

@@ -4,7 +4,7 @@
 
 #include <fstream>
 
-#include "tests/simulator/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace gsm::pty {
 namespace {
@@ -20,8 +20,8 @@ class FileProfileStoreTest : public testing::Test {
 
   void write(std::string_view text) { std::ofstream(path_, std::ios::binary) << text; }
 
-  ScratchFolder folder_;
-  std::string path_ = folder_.file("profile");
+  TemporaryFolder folder_;
+  std::string path_ = (folder_.path() / "profile").string();
   std::optional<std::string> loaded_;
 };
 
@@ -57,7 +57,7 @@ TEST_F(FileProfileStoreTest, FolderInPlaceOfTheFileIsNothingWithAComplaint) {
 
 TEST_F(FileProfileStoreTest, SavingWhereItCantFailsWithAComplaint) {
   testing::internal::CaptureStderr();
-  EXPECT_FALSE(FileProfileStore(folder_.file("none/profile")).save("+CRC=1\n"));
+  EXPECT_FALSE(FileProfileStore((folder_.path() / "none/profile").string()).save("+CRC=1\n"));
   EXPECT_NE(testing::internal::GetCapturedStderr(), "");
 }
 

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "tests/simulator/scratch_folder.h"
 #include "tests/simulator/serial_host.h"
+#include "tests/support/temporary_folder.h"
 
 namespace gsm::pty {
 namespace {
@@ -103,8 +103,8 @@ class ProgramTest : public testing::Test {
     return std::filesystem::exists(std::filesystem::symlink_status(link_));
   }
 
-  ScratchFolder folder_;
-  const std::string link_ = folder_.file("modem");
+  TemporaryFolder folder_;
+  const std::string link_ = (folder_.path() / "modem").string();
 };
 
 TEST_F(ProgramTest, SaysWhereItIsWhenItIsReady) {
@@ -166,14 +166,14 @@ TEST_F(ProgramTest, LinkThatCantBeMadeEndsItWithAMessage) {
 }
 
 TEST_F(ProgramTest, StoredProfileComesBackInTheNextRun) {
-  const std::string profile = folder_.file("profile");
+  const std::string profile = (folder_.path() / "profile").string();
   std::ofstream(profile) << "+IPR=19200\n";
   Program program({"--link", link_, "--profile", profile});
   EXPECT_NE(program.line().find(", 19200 baud, "), std::string::npos);
 }
 
 TEST_F(ProgramTest, PhoneBookOfAFileIsServedAndChangesGoIntoIt) {
-  const std::string book = folder_.file("book");
+  const std::string book = (folder_.path() / "book").string();
   std::ofstream(book) << "2\t+33639981201\tAnna\nnoise\n";
   Program program({"--link", link_, "--speed", "9600", "--time-factor", "20", "--phonebook", book});
   EXPECT_EQ(program.complaint(),
@@ -190,7 +190,7 @@ TEST_F(ProgramTest, PhoneBookOfAFileIsServedAndChangesGoIntoIt) {
 }
 
 TEST_F(ProgramTest, PhoneBookThatCantBeReadEndsIt) {
-  const std::string book = folder_.file("book");
+  const std::string book = (folder_.path() / "book").string();
   std::filesystem::create_directory(book);
   Program program({"--phonebook", book});
   EXPECT_EQ(program.complaint(), "modem-simulator: phone book " + book + " can't be read");

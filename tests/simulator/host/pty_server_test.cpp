@@ -4,8 +4,8 @@
 
 #include <array>
 
-#include "tests/simulator/scratch_folder.h"
 #include "tests/simulator/serial_host.h"
+#include "tests/support/temporary_folder.h"
 
 namespace gsm::pty {
 namespace {
@@ -41,8 +41,8 @@ class PtyServerTest : public testing::Test {
     return received;
   }
 
-  ScratchFolder folder_;
-  const std::string link_ = folder_.file("modem");
+  TemporaryFolder folder_;
+  const std::string link_ = (folder_.path() / "modem").string();
   simulator::MemoryProfileStore store_;
 };
 
