@@ -106,9 +106,9 @@ void Form12::ShowBarredStatus(const BarringFacility& facility,
 }
 
 void Form12::openBarringChange() {
-  Frame5.Visible = true;
   Frame9.Visible = false;
   Frame1.Visible = false;
+  Frame5.Visible = true;
 }
 
 // Of all facilities only the first one is ever sent to the modem.

@@ -42,8 +42,9 @@ void Form12::turnPage() try {
       {{&Frame12}, {&Frame1, &Frame5, &Frame9, &Frame10, &Frame11}, &Form12::readUserGroup},
   };
   const Page& page = pages[TabStrip1.Value - 1];
-  for (Control* part : page.shown) part->Visible = true;
+  // In this order the screen never needs room for two pages.
   for (Control* part : page.hidden) part->Visible = false;
+  for (Control* part : page.shown) part->Visible = true;
   (this->*page.read)();
   modem().clear();
 } catch (const RuntimeFailure&) {
