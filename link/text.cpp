@@ -39,6 +39,12 @@ std::string behind(std::string_view end, std::string_view text) {
                     : std::string(text.substr(static_cast<std::size_t>(found) - 1 + end.size()));
 }
 
+std::string takeReplyField(std::string& reply) {
+  std::string field = before(",", reply);
+  reply = slice(reply, position(",", reply) + 1, position("OK", reply));
+  return field;
+}
+
 std::string trim(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return {};

@@ -25,6 +25,11 @@ std::string before(std::string_view end, std::string_view text);
 /// `text` behind the first `end`, or all of it when `end` isn't there.
 std::string behind(std::string_view end, std::string_view text);
 
+/// Takes the field before the first comma off `reply` and returns it. `reply` keeps what lies
+/// behind the comma, as many characters as "OK" stands at in it. `invalidArgument` when there is no
+/// comma.
+std::string takeReplyField(std::string& reply);
+
 /// `text` without blanks at both ends. Other white space stays.
 std::string trim(std::string_view text);
 

@@ -37,6 +37,24 @@ TEST(Text, ASliceFromBelowOneOrOfNegativeLengthFails) {
   EXPECT_EQ(failureOf([] { before(",", "no comma"); }), 5);
 }
 
+TEST(Text, AReplysFieldIsTakenOffWithItsComma) {
+  std::string reply = "1,12,3\r\n\r\nOK";
+  EXPECT_EQ(takeReplyField(reply), "1");
+  EXPECT_EQ(reply, "12,3\r\n\r\nOK");
+  EXPECT_EQ(takeReplyField(reply), "12");
+  EXPECT_EQ(reply, "3\r\n\r\nOK");
+  EXPECT_EQ(failureOf([&] { takeReplyField(reply); }), 5);
+}
+
+TEST(Text, BehindAReplysFieldStandsAsMuchAsOkStandsAt) {
+  std::string shortened = "1,OK345678";
+  EXPECT_EQ(takeReplyField(shortened), "1");
+  EXPECT_EQ(shortened, "OK3");
+  std::string withoutOk = "1,2,3";
+  EXPECT_EQ(takeReplyField(withoutOk), "1");
+  EXPECT_EQ(withoutOk, "");
+}
+
 TEST(Text, TrimTakesBlanksOnly) {
   EXPECT_EQ(trim("  9600,N,8,1 "), "9600,N,8,1");
   EXPECT_EQ(trim("\t1\r\n"), "\t1\r\n");

@@ -32,6 +32,7 @@ TabView::TabView(TabStrip& control, QTabBar& widget, const UserActions& actions)
     : ViewOf(control, widget, actions) {
   while (widget.count() > 0) widget.removeTab(0);
   for (const std::string& tab : control.tabs()) widget.addTab(withoutMnemonics(toQt(tab)));
+  widget.updateGeometry();  // Qt leaves that to a strip that is on view, and a frame makes no room
   connect(&widget, &QTabBar::currentChanged, this, [this](int index) { choose(index); });
   // Comes before the tab is chosen, so a tab that is the chosen one now is clicked once more.
   connect(&widget, &QTabBar::tabBarClicked, this, [this](int index) {
