@@ -3,7 +3,7 @@
 #include <stdlib.h>
 
 #include "platform/code_page.h"
-#include "platform/runtime_failure.h"
+#include "platform/sqlite/database_failure.h"
 #include "platform/sqlite/phone_book_file.h"
 #include "platform/sqlite/sqlite_engine.h"
 
@@ -16,7 +16,7 @@ void checkFree(const fs::path& file) {
   std::error_code error;
   // A link into nowhere is in the way too.
   if (fs::symlink_status(file, error).type() != fs::file_type::not_found) {
-    throw RuntimeFailure(3204, "There is a file '" + file.string() + "' already.");
+    throw databaseFailure(DatabaseFault::fileIsThere, file.string());
   }
 }
 
@@ -27,7 +27,8 @@ class FolderBeside {
   explicit FolderBeside(const fs::path& file) {
     std::string name = file.string() + ".XXXXXX";
     if (mkdtemp(name.data()) == nullptr) {
-      throw RuntimeFailure(3051, "Couldn't make the file '" + file.string() + "'.");
+      throw databaseFailureSaying(DatabaseFault::cannotOpen,
+                                  "Couldn't make the file '" + file.string() + "'.");
     }
     path_ = name;
   }

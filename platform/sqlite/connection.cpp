@@ -3,24 +3,26 @@
 #include <string_view>
 
 #include "platform/code_page.h"
-#include "platform/runtime_failure.h"
+#include "platform/sqlite/database_failure.h"
 
 namespace gsm {
 namespace {
 
-// Numbers of the run-time's failures of a database, by what the library says.
-RuntimeFailure failureOf(sqlite3* handle) {
-  const std::string description = fromUtf8(sqlite3_errmsg(handle));
-  switch (sqlite3_errcode(handle) & 0xFF) {
+DatabaseFault faultOf(int result) {
+  switch (result & 0xFF) {
     case SQLITE_NOTADB:
-    case SQLITE_CORRUPT: return {3343, "Unrecognized database format: " + description};
+    case SQLITE_CORRUPT: return DatabaseFault::badFormat;
     case SQLITE_BUSY:
-    case SQLITE_LOCKED: return {3218, "Couldn't update; currently locked: " + description};
-    case SQLITE_READONLY: return {3027, "Can't update. Database or object is read-only."};
-    case SQLITE_FULL: return {3049, "Disk full: " + description};
-    case SQLITE_CANTOPEN: return {3051, "Couldn't open the database: " + description};
-    default: return {3146, "Database failure: " + description};
+    case SQLITE_LOCKED: return DatabaseFault::locked;
+    case SQLITE_READONLY: return DatabaseFault::readOnly;
+    case SQLITE_FULL: return DatabaseFault::diskFull;
+    case SQLITE_CANTOPEN: return DatabaseFault::cannotOpen;
+    default: return DatabaseFault::other;
   }
+}
+
+RuntimeFailure failureOf(sqlite3* handle) {
+  return databaseFailure(faultOf(sqlite3_errcode(handle)), fromUtf8(sqlite3_errmsg(handle)));
 }
 
 }  // namespace
@@ -53,9 +55,9 @@ Statement::Statement(const Connection& connection, const std::string& sql)
                                         static_cast<int>(sql.size()), &statement, &rest);
   statement_.reset(statement);
   if (result != SQLITE_OK) throw failureOf(connection.handle());
-  if (statement == nullptr) throw RuntimeFailure(3129, "Invalid SQL statement");
+  if (statement == nullptr) throw databaseFailure(DatabaseFault::noStatement);
   if (std::string_view(rest).find_first_not_of("; \t\r\n") != std::string_view::npos) {
-    throw RuntimeFailure(3142, "Characters found after end of SQL statement.");
+    throw databaseFailure(DatabaseFault::severalStatements);
   }
 }
 
@@ -82,7 +84,7 @@ bool Statement::step() {
 void Statement::mustChangeARow() {
   step();
   if (sqlite3_changes(connection_.handle()) == 0) {
-    throw RuntimeFailure(3167, "Record is deleted.");
+    throw databaseFailure(DatabaseFault::recordDeleted);
   }
 }
 

@@ -2,8 +2,8 @@
 
 #include <fstream>
 
-#include "platform/runtime_failure.h"
 #include "platform/sqlite/connection.h"
+#include "platform/sqlite/database_failure.h"
 
 namespace gsm {
 
@@ -35,10 +35,11 @@ void createTables(const std::filesystem::path& file) {
 void createPhoneBook(const std::filesystem::path& file) {
   std::error_code error;
   if (std::filesystem::exists(file, error)) {
-    throw RuntimeFailure(3204, "There is a file '" + file.string() + "' already.");
+    throw databaseFailure(DatabaseFault::fileIsThere, file.string());
   }
   if (!std::ofstream(file)) {
-    throw RuntimeFailure(3051, "Couldn't make the file '" + file.string() + "'.");
+    throw databaseFailureSaying(DatabaseFault::cannotOpen,
+                                "Couldn't make the file '" + file.string() + "'.");
   }
   try {
     createTables(file);

@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "platform/code_page.h"
-#include "platform/runtime_failure.h"
 #include "platform/sqlite/connection.h"
+#include "platform/sqlite/database_failure.h"
 #include "platform/sqlite/sqlite_record_set.h"
 
 namespace gsm {
@@ -64,12 +64,13 @@ std::shared_ptr<Database> SqliteEngine::OpenDatabase(const fs::path& name) {
   const fs::path file = ignoringCase(name);
   std::error_code error;
   if (!fs::is_regular_file(file, error)) {
-    throw RuntimeFailure(3024, "Could not find file '" + file.string() + "'.");
+    throw databaseFailure(DatabaseFault::noFile, file.string());
   }
   if (isJetFile(file)) {
-    throw RuntimeFailure(3343, "Unrecognized database format '" + file.string() +
-                                   "': it comes from an old machine. Bring it over with "
-                                   "phonebook-import OLD NEW.");
+    throw databaseFailureSaying(DatabaseFault::badFormat,
+                                "Unrecognized database format '" + file.string() +
+                                    "': it comes from an old machine. Bring it over with "
+                                    "phonebook-import OLD NEW.");
   }
   return std::make_shared<SqliteDatabase>(file);
 }

@@ -4,13 +4,13 @@
 #include <tuple>
 
 #include "platform/code_page.h"
-#include "platform/runtime_failure.h"
 #include "platform/sqlite/criterion.h"
+#include "platform/sqlite/database_failure.h"
 
 namespace gsm {
 namespace {
 
-RuntimeFailure noCurrentRecord() { return {3021, "No current record."}; }
+RuntimeFailure noCurrentRecord() { return databaseFailure(DatabaseFault::noCurrentRecord); }
 
 bool sameName(const std::string& a, const std::string& b) {
   return sqlite3_stricmp(a.c_str(), b.c_str()) == 0;
@@ -23,7 +23,7 @@ SqliteRecordSet::SqliteRecordSet(std::shared_ptr<Connection> connection, const s
       table_(quotedName(table)),
       columns_(connection_->columnsOf(table)) {
   if (columns_.empty()) {
-    throw RuntimeFailure(3078, "Could not find the input table or query '" + table + "'.");
+    throw databaseFailure(DatabaseFault::noTable, table);
   }
   Statement query(*connection_, "SELECT rowid FROM " + table_ + " ORDER BY rowid");
   while (query.step()) keys_.push_back(query.number(0));
@@ -50,13 +50,13 @@ const std::string& SqliteRecordSet::ownName(const std::string& column) const {
   const auto found =
       std::find_if(columns_.begin(), columns_.end(),
                    [&column](const std::string& each) { return sameName(each, column); });
-  if (found == columns_.end()) throw RuntimeFailure(3265, "Item not found in this collection.");
+  if (found == columns_.end()) throw databaseFailure(DatabaseFault::noColumn);
   return *found;
 }
 
 void SqliteRecordSet::FindFirst(const std::string& text) {
   const auto criterion = parseCriterion(text);
-  if (!criterion) throw RuntimeFailure(3077, "Syntax error in expression: " + text);
+  if (!criterion) throw databaseFailure(DatabaseFault::badExpression, text);
   const std::string& column = ownName(criterion->column);
   forgetChange();
   noMatch_ = true;
@@ -84,7 +84,7 @@ std::string SqliteRecordSet::field(const std::string& column) {
   const bool isThere = query.step();
   std::string text = isThere ? fromUtf8(query.text(0)) : std::string();
   query.reset();
-  if (!isThere) throw RuntimeFailure(3167, "Record is deleted.");
+  if (!isThere) throw databaseFailure(DatabaseFault::recordDeleted);
   return text;
 }
 
@@ -112,14 +112,14 @@ void SqliteRecordSet::Edit() {
 
 void SqliteRecordSet::setField(const std::string& column, const std::string& value) {
   if (change_ == Change::none) {
-    throw RuntimeFailure(3020, "Update or CancelUpdate without AddNew or Edit.");
+    throw databaseFailure(DatabaseFault::noEdit);
   }
   values_[ownName(column)] = toUtf8(value);
 }
 
 void SqliteRecordSet::Update() {
   switch (change_) {
-    case Change::none: throw RuntimeFailure(3020, "Update or CancelUpdate without AddNew or Edit.");
+    case Change::none: throw databaseFailure(DatabaseFault::noEdit);
     case Change::add: insertRow(); break;
     case Change::edit: updateRow(); break;
   }
