@@ -4,6 +4,7 @@
 
 #include "platform/sqlite/connection.h"
 #include "platform/sqlite/database_failure.h"
+#include "platform/sqlite/names.h"
 
 namespace gsm {
 
