@@ -1,54 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <sstream>
-
 #include "panel/form1.h"
 #include "tests/phonebook/phone_book_test.h"
 #include "tests/support/rows.h"
+#include "tests/support/window_design.h"
 
 namespace gsm {
 namespace {
-
-std::string kindOf(const Control& control) {
-  const Control* const any = &control;
-  if (dynamic_cast<const Label*>(any) != nullptr) return "label";
-  if (dynamic_cast<const TextBox*>(any) != nullptr) return "text box";
-  if (dynamic_cast<const CommandButton*>(any) != nullptr) return "button";
-  if (dynamic_cast<const Picture*>(any) != nullptr) return "picture";
-  if (dynamic_cast<const Frame*>(any) != nullptr) return "frame";
-  if (dynamic_cast<const ListBox*>(any) != nullptr) return "list box";
-  if (dynamic_cast<const DataControl*>(any) != nullptr) return "data control";
-  return "something else";
-}
-
-template <class Value>
-Value valueOf(const Control& control, const char* property) {
-  const PropertyBase* const found = control.property(property);
-  return found == nullptr ? Value{} : std::get<Value>(found->value());
-}
-
-// One line for each control that isn't quite plain: the name, the kind, the caption or text, and
-// what else is set.
-Texts describe(const Window& window) {
-  Texts all;
-  for (const Control* control : window.controls()) {
-    std::ostringstream line;
-    line << control->fullName() << ": " << kindOf(*control);
-    for (const char* words : {"Caption", "Text"}) {
-      const std::string text = valueOf<std::string>(*control, words);
-      if (!text.empty()) line << " '" << text << "'";
-    }
-    const int length = valueOf<int>(*control, "MaxLength");
-    if (length != 0) line << " of " << length;
-    if (!control->Enabled.peek()) line << " disabled";
-    if (!control->Visible.peek()) line << " hidden";
-    if (control->container() != nullptr) line << " in " << control->container()->name();
-    all.push_back(line.str());
-  }
-  std::sort(all.begin(), all.end());
-  return all;
-}
 
 struct DesignRow {
   std::string name;
