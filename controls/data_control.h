@@ -13,11 +13,29 @@ struct DataControlDesign {
   std::string RecordSource;  // a table
 };
 
-/// A control bound to a table of a database file in the current folder. It has no view.
+/// A control bound to rows of a database file in the current folder. It has no view.
 class DataControl : public Control {
  public:
   using Design = DataControlDesign;
   DataControl(Window& window, std::string name, Design design, int index = kNoIndex);
+
+  /// What `Refresh` opens: a table's name, or a query of the form `select COLUMNS from TABLE`. The
+  /// rows that are open stay as they are when it is assigned.
+  class Source {
+   public:
+    Source(DataControl& control, std::string design)
+        : control_(control), design_(std::move(design)), text_(design_) {}
+    Source& operator=(std::string text);
+    operator const std::string&() const;
+
+   private:
+    friend class DataControl;
+
+    DataControl& control_;
+    const std::string design_;
+    std::string text_;
+  };
+  Source RecordSource;
 
   /// Reopens the record set, so that rows written elsewhere are seen.
   void Refresh();
@@ -29,7 +47,6 @@ class DataControl : public Control {
 
  private:
   const std::string databaseName_;
-  const std::string recordSource_;
   std::shared_ptr<Database> database_;
   std::unique_ptr<RecordSet> recordset_;
 };

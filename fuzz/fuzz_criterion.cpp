@@ -29,7 +29,9 @@ void read(std::string_view text) {
   const std::string& wanted = criterion->text;
   const bool comparesAll =
       !criterion->last || static_cast<std::size_t>(*criterion->last) >= wanted.size();
-  if (comparesAll) mustHold(criterion->isMetBy(wanted));
+  // A blank text is met by nothing, itself included.
+  const bool isBlank = wanted.find_first_not_of(' ') == std::string::npos;
+  if (comparesAll) mustHold(criterion->isMetBy(wanted) == !isBlank);
   // What stands in front of the last characters makes no difference.
   if (criterion->last) {
     const auto last = static_cast<std::size_t>(*criterion->last);
@@ -39,6 +41,7 @@ void read(std::string_view text) {
   }
   // Being the same text works both ways.
   const std::string other(text);
+  if (isBlank || other.find_first_not_of(' ') == std::string::npos) return;
   mustHold(Criterion{"c", {}, wanted}.isMetBy(other) == Criterion{"c", {}, other}.isMetBy(wanted));
 }
 

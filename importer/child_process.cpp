@@ -13,7 +13,7 @@
 #include <cerrno>
 #include <cstring>
 
-#include "platform/runtime_failure.h"
+#include "platform/sqlite/database_failure.h"
 
 #if defined(__has_feature)
 #if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer) || \
@@ -108,7 +108,8 @@ class Child {
 
  private:
   [[noreturn]] static void fail() {
-    throw RuntimeFailure(3051, std::string("Couldn't start a process: ") + std::strerror(errno));
+    throw databaseFailureSaying(DatabaseFault::cannotOpen,
+                                std::string("Couldn't start a process: ") + std::strerror(errno));
   }
 
   pid_t process_ = -1;

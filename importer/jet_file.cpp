@@ -9,7 +9,7 @@
 #include "importer/jet_listener.h"
 #include "importer/jet_messages.h"
 #include "importer/jet_reader.h"
-#include "platform/runtime_failure.h"
+#include "platform/sqlite/database_failure.h"
 
 namespace gsm {
 
@@ -19,17 +19,20 @@ void checkJetHeader(const fs::path& file) {
   const std::string name = "'" + file.string() + "'";
   std::error_code error;
   if (!fs::is_regular_file(file, error)) {
-    throw RuntimeFailure(3024, "Could not find file " + name + ".");
+    throw databaseFailure(DatabaseFault::noFile, file.string());
   }
   std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw RuntimeFailure(3051, "Couldn't open " + name + " for reading.");
+  if (!stream)
+    throw databaseFailureSaying(DatabaseFault::cannotOpen,
+                                "Couldn't open " + name + " for reading.");
 
   constexpr std::string_view kMark("\0\1\0\0Standard Jet DB\0", 20);
   std::array<char, kMark.size() + 1> head{};
   stream.read(head.data(), static_cast<std::streamsize>(head.size()));
   const auto version = static_cast<unsigned char>(head.back());
   if (!stream || std::string_view(head.data(), kMark.size()) != kMark || version > 1) {
-    throw RuntimeFailure(3343, name + " isn't a Jet 3 or Jet 4 database.");
+    throw databaseFailureSaying(DatabaseFault::badFormat,
+                                name + " isn't a Jet 3 or Jet 4 database.");
   }
   // The library takes what lies behind the end for zeros, and so for tables without rows.
   const std::uintmax_t pageSize = version == 0 ? 2048 : 4096;

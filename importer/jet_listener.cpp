@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "importer/jet_messages.h"
+#include "platform/sqlite/database_failure.h"
 
 namespace gsm {
 namespace {
@@ -74,13 +75,15 @@ class Listener {
     if (what == JetProblem::unreadable || table >= tables_.size()) return nonsense();
     const JetTable& wanted = tables_[table];
     if (what == JetProblem::noTable) {
-      return {3078, quoted(file_) + " has no table '" + wanted.name + "'."};
+      return databaseFailureSaying(DatabaseFault::noTable,
+                                   quoted(file_) + " has no table '" + wanted.name + "'.");
     }
     if (column >= wanted.columns.size()) return nonsense();
     const std::string name =
         "column '" + wanted.columns[column] + "' in its table '" + wanted.name + "'.";
-    if (what == JetProblem::noColumn) return {3265, quoted(file_) + " has no " + name};
-    return {3265, quoted(file_) + " has neither texts nor numbers in " + name};
+    const std::string has =
+        what == JetProblem::noColumn ? " has no " : " has neither texts nor numbers in ";
+    return databaseFailureSaying(DatabaseFault::noColumn, quoted(file_) + has + name);
   }
 
   const fs::path& file_;
@@ -98,7 +101,8 @@ std::vector<std::vector<JetRow>> rowsTold(const fs::path& file, const std::vecto
 }
 
 RuntimeFailure damagedJetFile(const fs::path& file, const std::string& how) {
-  return {3343, quoted(file) + " is damaged: " + how + "."};
+  return databaseFailureSaying(DatabaseFault::badFormat,
+                               quoted(file) + " is damaged: " + how + ".");
 }
 
 }  // namespace gsm

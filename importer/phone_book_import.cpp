@@ -1,48 +1,14 @@
 #include "importer/phone_book_import.h"
 
-#include <stdlib.h>
-
 #include "platform/code_page.h"
-#include "platform/runtime_failure.h"
 #include "platform/sqlite/phone_book_file.h"
 #include "platform/sqlite/sqlite_engine.h"
+#include "platform/sqlite/unfinished_file.h"
 
 namespace gsm {
 namespace {
 
 namespace fs = std::filesystem;
-
-void checkFree(const fs::path& file) {
-  std::error_code error;
-  // A link into nowhere is in the way too.
-  if (fs::symlink_status(file, error).type() != fs::file_type::not_found) {
-    throw RuntimeFailure(3204, "There is a file '" + file.string() + "' already.");
-  }
-}
-
-// A folder beside a file, on the same disk, that goes with all that is left in it: the database and
-// the engine's own files.
-class FolderBeside {
- public:
-  explicit FolderBeside(const fs::path& file) {
-    std::string name = file.string() + ".XXXXXX";
-    if (mkdtemp(name.data()) == nullptr) {
-      throw RuntimeFailure(3051, "Couldn't make the file '" + file.string() + "'.");
-    }
-    path_ = name;
-  }
-  ~FolderBeside() {
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-  }
-  FolderBeside(const FolderBeside&) = delete;
-  FolderBeside& operator=(const FolderBeside&) = delete;
-
-  const fs::path& path() const { return path_; }
-
- private:
-  fs::path path_;
-};
 
 std::vector<JetTable> wantedTables() {
   std::vector<JetTable> tables;
@@ -52,49 +18,49 @@ std::vector<JetTable> wantedTables() {
   return tables;
 }
 
-std::size_t store(Database& book, const JetTable& table, const std::vector<JetRow>& rows) {
-  std::size_t unknown = 0;
+// A control character in what goes into a command would end it and begin another.
+bool goesIntoCommands(const std::string& column) { return column != "Name"; }
+
+bool isControl(char character) {
+  return static_cast<unsigned char>(character) < 0x20 || character == 0x7F;
+}
+
+void store(Database& book, const JetTable& table, const std::vector<JetRow>& rows,
+           PhoneBookImport& result) {
   const auto set = book.openRecordSet(table.name);
   for (const JetRow& row : rows) {
     set->AddNew();
     for (std::size_t column = 0; column < row.size(); ++column) {
-      const std::string text = fromUtf8(row[column]);
-      if (toUtf8(text) != row[column]) ++unknown;
+      std::string text = fromUtf8(row[column]);
+      if (toUtf8(text) != row[column]) ++result.unknownLetters;
+      if (goesIntoCommands(table.columns[column]) && std::erase_if(text, isControl) > 0) {
+        ++result.controlCharacters;
+      }
       set->setField(table.columns[column], text);
     }
     set->Update();
   }
-  return unknown;
+  result.tables.push_back({table.name, rows.size()});
 }
 
 }  // namespace
 
 PhoneBookImport importPhoneBook(const fs::path& oldFile, const fs::path& newFile,
                                 const JetBounds& bounds) {
-  checkFree(newFile);
+  UnfinishedFile::removeLeftovers(newFile);
+  checkPlaceForPhoneBook(newFile);
   const std::vector<JetTable> tables = wantedTables();
   const auto rows = readJetFile(oldFile, tables, bounds);
 
-  const FolderBeside folder(newFile);
-  const fs::path unfinished = folder.path() / "phonebook.mdb";
-  createPhoneBook(unfinished);
   PhoneBookImport result;
-  {
+  createPhoneBook(newFile, [&](const fs::path& unfinished) {
     const auto book = SqliteEngine().OpenDatabase(unfinished);
     book->Execute("begin");  // one write to the disk instead of one for each row
     for (std::size_t index = 0; index < tables.size(); ++index) {
-      result.unknownLetters += store(*book, tables[index], rows[index]);
-      result.tables.push_back({tables[index].name, rows[index].size()});
+      store(*book, tables[index], rows[index], result);
     }
     book->Execute("commit");
-  }
-  checkFree(newFile);  // it has been a while
-  std::error_code error;
-  fs::rename(unfinished, newFile, error);
-  if (error) {
-    throw RuntimeFailure(
-        3051, "Couldn't make the file '" + newFile.string() + "': " + error.message() + ".");
-  }
+  });
   return result;
 }
 

@@ -15,7 +15,8 @@ constexpr const char* kUsage =
     "usage: phonebook-import OLD NEW\n"
     "Makes the phone book NEW of OLD, a Jet 3 or Jet 4 database with the tables DATA (Index,\n"
     "Number, Name) and Details (TotalIndex, UsedIndex). OLD stays as it is; there must be no "
-    "NEW.\n";
+    "NEW,\n"
+    "in small letters or capitals.\n";
 
 void tell(const gsm::PhoneBookImport& done) {
   for (const auto& table : done.tables) {
@@ -24,6 +25,10 @@ void tell(const gsm::PhoneBookImport& done) {
   if (done.unknownLetters > 0) {
     std::cout << "Texts with letters that the program doesn't know, now \"?\": "
               << done.unknownLetters << "\n";
+  }
+  if (done.controlCharacters > 0) {
+    std::cout << "Numbers and locations with control characters, which are left out: "
+              << done.controlCharacters << "\n";
   }
 }
 

@@ -36,7 +36,7 @@ void Form3::deleteEntry() try {
     platform().boxes.show("Select the Number To Delete In PhoneBook", "GSM");
     return;
   }
-  panel_.form1.exchange("AT+CPBW=" + index);
+  panel_.form1.exchange("AT+CPBW=" + oneLine(index));
   if (!panel_.form1.Text1.holds("OK")) {
     platform().boxes.show("Error Occurred.Try Again", "GSM");
     return;

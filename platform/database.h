@@ -6,8 +6,9 @@
 
 namespace gsm {
 
-/// The rows of one table as a handler walks them: live and updatable. Rows stand in the order in
-/// which they were added. Names of tables and columns ignore case; texts are Windows-1252.
+/// The rows of one table as a handler walks them: live and updatable. It has the rows that there
+/// were when it was opened and those that were added through it, in the order in which they were
+/// added. Names of tables and columns ignore case; texts are Windows-1252.
 ///
 /// There is a current row unless the set is at an end. Every failure is a `RuntimeFailure` with the
 /// engine's description.
@@ -23,7 +24,8 @@ class RecordSet {
 
   /// Moves to the first row that meets `criterion`: a column, or `right(column,n)`, an equals sign
   /// and a quoted text. Texts are compared without regard to case and to trailing blanks. A
-  /// criterion that isn't of that form is a failure, and is never run as anything else.
+  /// criterion that isn't of that form is a failure, and is never run as anything else. A blank
+  /// text is met by no row.
   virtual void FindFirst(const std::string& criterion) = 0;
   /// Whether the last `FindFirst` found none. The current row is then as before.
   virtual bool NoMatch() const = 0;
@@ -49,15 +51,18 @@ class Database {
 
   /// Runs one SQL statement that returns no rows.
   virtual void Execute(const std::string& statement) = 0;
-  virtual std::unique_ptr<RecordSet> openRecordSet(const std::string& table) = 0;
+  /// The rows of a table, or those that a query `select COLUMNS from TABLE` gives, in which the
+  /// columns are an asterisk or names with commas between them. A query of another form is a
+  /// failure, and is never run as anything else.
+  virtual std::unique_ptr<RecordSet> openRecordSet(const std::string& source) = 0;
 };
 
 class DatabaseEngine {
  public:
   virtual ~DatabaseEngine() = default;
 
-  /// Opens the file, of which the last part of the name ignores case. It never makes one: a file
-  /// that isn't there, or is no database, is a failure.
+  /// Opens the file, of which the last part of the name ignores case: every spelling means the same
+  /// file. It never makes one: a file that isn't there, or is no database, is a failure.
   virtual std::shared_ptr<Database> OpenDatabase(const std::filesystem::path& file) = 0;
 };
 

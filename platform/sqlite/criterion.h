@@ -13,7 +13,8 @@ struct Criterion {
   std::string text;
 
   /// Whether a row with this text in the column meets it. Texts are Windows-1252, and compared
-  /// without regard to case and to trailing blanks.
+  /// without regard to case and to trailing blanks. One with a blank text, as a caller makes it who
+  /// hides the number, is met by none: a row without a number isn't that caller.
   bool isMetBy(std::string_view value) const;
 };
 

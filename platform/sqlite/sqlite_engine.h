@@ -1,20 +1,25 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <memory>
 
 #include "platform/database.h"
+#include "platform/sqlite/file_name.h"
 
 namespace gsm {
-
-/// The file of that name as it is really spelled: the last part of a name ignores case. `file`
-/// itself when there is none.
-std::filesystem::path ignoringCase(const std::filesystem::path& file);
 
 /// Databases in SQLite files.
 class SqliteEngine : public DatabaseEngine {
  public:
+  /// Where another program holds a file, each operation waits for it as long as `patience`.
+  explicit SqliteEngine(std::chrono::milliseconds patience = std::chrono::seconds(1))
+      : patience_(patience) {}
+
   std::shared_ptr<Database> OpenDatabase(const std::filesystem::path& file) override;
+
+ private:
+  const std::chrono::milliseconds patience_;
 };
 
 }  // namespace gsm

@@ -1,37 +1,88 @@
 #include "platform/sqlite/sqlite_record_set.h"
 
 #include <algorithm>
-#include <tuple>
+#include <optional>
 
 #include "platform/code_page.h"
-#include "platform/runtime_failure.h"
 #include "platform/sqlite/criterion.h"
+#include "platform/sqlite/database_failure.h"
+#include "platform/sqlite/names.h"
+#include "platform/sqlite/record_source.h"
 
 namespace gsm {
 namespace {
 
-RuntimeFailure noCurrentRecord() { return {3021, "No current record."}; }
+RuntimeFailure noCurrentRecord() { return databaseFailure(DatabaseFault::noCurrentRecord); }
 
-bool sameName(const std::string& a, const std::string& b) {
-  return sqlite3_stricmp(a.c_str(), b.c_str()) == 0;
+// Far above what the locations of a card can be.
+constexpr std::size_t kMostRows = 100'000;
+
+// By which SQL reaches the rows of a table: a name that isn't one of its columns. Empty when all
+// are.
+std::string keyOf(const std::vector<std::string>& columns) {
+  for (const char* key : {"rowid", "_rowid_", "oid"}) {
+    const auto isKey = [key](const std::string& each) { return sameName(each, key); };
+    if (std::none_of(columns.begin(), columns.end(), isKey)) return key;
+  }
+  return {};
+}
+
+std::size_t placeIn(const std::vector<std::string>& columns, const std::string& column) {
+  const auto found =
+      std::find_if(columns.begin(), columns.end(),
+                   [&column](const std::string& each) { return sameName(each, column); });
+  if (found == columns.end()) throw databaseFailure(DatabaseFault::noColumn);
+  return static_cast<std::size_t>(found - columns.begin());
 }
 
 }  // namespace
 
-SqliteRecordSet::SqliteRecordSet(std::shared_ptr<Connection> connection, const std::string& table)
+SqliteRecordSet::SqliteRecordSet(std::shared_ptr<Connection> connection, const std::string& source)
+    : SqliteRecordSet(connection, sourceOf(*connection, source)) {}
+
+SqliteRecordSet::SqliteRecordSet(std::shared_ptr<Connection> connection, Source source)
     : connection_(std::move(connection)),
-      table_(quotedName(table)),
-      columns_(connection_->columnsOf(table)) {
-  if (columns_.empty()) {
-    throw RuntimeFailure(3078, "Could not find the input table or query '" + table + "'.");
+      table_(std::move(source.table)),
+      key_(std::move(source.key)),
+      columns_(std::move(source.columns)),
+      rows_(connection_, table_, key_, columns_) {
+  Statement query(*connection_, "SELECT " + key_ + " FROM " + table_ + " ORDER BY " + key_);
+  while (query.step()) {
+    if (!keys_.empty()) checkOrder(keys_.back(), query.number(0));
+    if (keys_.size() == kMostRows) {
+      throw databaseFailure(DatabaseFault::badFormat, "it has too many rows");
+    }
+    keys_.push_back(query.number(0));
   }
-  Statement query(*connection_, "SELECT rowid FROM " + table_ + " ORDER BY rowid");
-  while (query.step()) keys_.push_back(query.number(0));
+}
+
+// A table of that name comes first, whatever its name looks like.
+SqliteRecordSet::Source SqliteRecordSet::sourceOf(const Connection& connection,
+                                                  const std::string& text) {
+  Selection selection{text, {}};
+  std::vector<std::string> columns = connection.columnsOf(toUtf8(text));
+  if (columns.empty()) {
+    const auto parsed = parseSelection(text);
+    if (parsed) columns = connection.columnsOf(parsed->table);
+    if (columns.empty()) throw databaseFailure(DatabaseFault::noTable, text);
+    selection = *parsed;
+  }
+  const std::string key = keyOf(columns);
+  if (key.empty()) throw databaseFailure(DatabaseFault::noTable, text);
+  if (!selection.columns.empty()) {
+    std::vector<std::string> chosen;
+    for (const std::string& each : selection.columns) {
+      chosen.push_back(columns[placeIn(columns, each)]);
+    }
+    columns = std::move(chosen);
+  }
+  return {quotedName(toUtf8(selection.table)), key, std::move(columns)};
 }
 
 void SqliteRecordSet::MoveFirst() {
   if (keys_.empty()) throw noCurrentRecord();
   forgetChange();
+  rows_.rewind();
   current_ = 0;
 }
 
@@ -46,57 +97,49 @@ sqlite3_int64 SqliteRecordSet::currentKey() const {
   return keys_[current_];
 }
 
-const std::string& SqliteRecordSet::ownName(const std::string& column) const {
-  const auto found =
-      std::find_if(columns_.begin(), columns_.end(),
-                   [&column](const std::string& each) { return sameName(each, column); });
-  if (found == columns_.end()) throw RuntimeFailure(3265, "Item not found in this collection.");
-  return *found;
+std::size_t SqliteRecordSet::place(const std::string& column) const {
+  return placeIn(columns_, column);
 }
 
 void SqliteRecordSet::FindFirst(const std::string& text) {
   const auto criterion = parseCriterion(text);
-  if (!criterion) throw RuntimeFailure(3077, "Syntax error in expression: " + text);
+  if (!criterion) throw databaseFailure(DatabaseFault::badExpression, text);
   const std::string& column = ownName(criterion->column);
   forgetChange();
+  rows_.rewind();
   noMatch_ = true;
-  Statement query(*connection_, "SELECT rowid, CAST(" + quotedName(column) + " AS TEXT) FROM " +
-                                    table_ + " ORDER BY rowid");
+  withinMemory([&] { findFirst(*criterion, column); });
+}
+
+void SqliteRecordSet::findFirst(const Criterion& criterion, const std::string& column) {
+  Statement query(*connection_, "SELECT " + key_ + ",CAST(" + quotedName(column) +
+                                    " AS TEXT) FROM " + table_ + " ORDER BY " + key_);
+  std::optional<sqlite3_int64> before;
   while (noMatch_ && query.step()) {
-    if (!criterion->isMetBy(fromUtf8(query.text(1)))) continue;
+    const sqlite3_int64 key = query.number(0);
+    if (before) checkOrder(*before, key);
+    before = key;
+    if (!criterion.isMetBy(fromUtf8(query.text(1)))) continue;
     // A row that another set has added meanwhile is not of this set before its next opening.
-    const auto key = std::lower_bound(keys_.begin(), keys_.end(), query.number(0));
-    if (key == keys_.end() || *key != query.number(0)) continue;
-    current_ = static_cast<std::size_t>(key - keys_.begin());
+    const auto found = std::lower_bound(keys_.begin(), keys_.end(), key);
+    if (found == keys_.end() || *found != key) continue;
+    current_ = static_cast<std::size_t>(found - keys_.begin());
     noMatch_ = false;
   }
 }
 
 std::string SqliteRecordSet::field(const std::string& column) {
-  const std::string& name = ownName(column);
+  const std::size_t wanted = place(column);
   if (change_ != Change::none) {
-    const auto set = values_.find(name);
+    const auto set = values_.find(columns_[wanted]);
     if (set != values_.end()) return fromUtf8(set->second);
     if (change_ == Change::add) return {};
   }
-  Statement& query = reader(name);
-  query.bind(1, currentKey());
-  const bool isThere = query.step();
-  std::string text = isThere ? fromUtf8(query.text(0)) : std::string();
-  query.reset();
-  if (!isThere) throw RuntimeFailure(3167, "Record is deleted.");
-  return text;
-}
-
-Statement& SqliteRecordSet::reader(const std::string& column) {
-  const auto known = readers_.find(column);
-  if (known != readers_.end()) return known->second;
-  const std::string sql =
-      "SELECT CAST(" + quotedName(column) + " AS TEXT) FROM " + table_ + " WHERE rowid=?1";
-  return readers_
-      .emplace(std::piecewise_construct, std::forward_as_tuple(column),
-               std::forward_as_tuple(*connection_, sql))
-      .first->second;
+  return withinMemory([&] {
+    const std::vector<std::string>* const row = rows_.row(currentKey());
+    if (row == nullptr) throw databaseFailure(DatabaseFault::recordDeleted);
+    return (*row)[wanted];
+  });
 }
 
 void SqliteRecordSet::AddNew() {
@@ -112,16 +155,17 @@ void SqliteRecordSet::Edit() {
 
 void SqliteRecordSet::setField(const std::string& column, const std::string& value) {
   if (change_ == Change::none) {
-    throw RuntimeFailure(3020, "Update or CancelUpdate without AddNew or Edit.");
+    throw databaseFailure(DatabaseFault::noEdit);
   }
-  values_[ownName(column)] = toUtf8(value);
+  const std::string& name = ownName(column);
+  withinMemory([&] { values_[name] = toUtf8(value); });
 }
 
 void SqliteRecordSet::Update() {
   switch (change_) {
-    case Change::none: throw RuntimeFailure(3020, "Update or CancelUpdate without AddNew or Edit.");
-    case Change::add: insertRow(); break;
-    case Change::edit: updateRow(); break;
+    case Change::none: throw databaseFailure(DatabaseFault::noEdit);
+    case Change::add: withinMemory([this] { insertRow(); }); break;
+    case Change::edit: withinMemory([this] { updateRow(); }); break;
   }
   forgetChange();
 }
@@ -163,7 +207,8 @@ void SqliteRecordSet::updateRow() {
   for (const auto& [name, value] : values_) {
     assignments += (assignments.empty() ? "" : ",") + quotedName(name) + "=?";
   }
-  Statement change(*connection_, "UPDATE " + table_ + " SET " + assignments + " WHERE rowid=?");
+  Statement change(*connection_,
+                   "UPDATE " + table_ + " SET " + assignments + " WHERE " + key_ + "=?");
   int parameter = 0;
   for (const auto& [name, value] : values_) change.bind(++parameter, value);
   change.bind(++parameter, currentKey());
@@ -171,7 +216,7 @@ void SqliteRecordSet::updateRow() {
 }
 
 void SqliteRecordSet::Delete() {
-  Statement deletion(*connection_, "DELETE FROM " + table_ + " WHERE rowid=?1");
+  Statement deletion(*connection_, "DELETE FROM " + table_ + " WHERE " + key_ + "=?1");
   deletion.bind(1, currentKey());
   deletion.mustChangeARow();
   forgetChange();  // or it would be stored into the row behind

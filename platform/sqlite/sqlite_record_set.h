@@ -7,14 +7,18 @@
 
 #include "platform/database.h"
 #include "platform/sqlite/connection.h"
+#include "platform/sqlite/criterion.h"
+#include "platform/sqlite/rows_ahead.h"
 
 namespace gsm {
 
 /// A table's rows, by the keys that they had when the set was opened and those added since. A row's
-/// columns are read when they are asked for, so they are as the file holds them then.
+/// columns are as the file holds them when they are asked for. Of a query's rows, the columns that
+/// it names.
 class SqliteRecordSet : public RecordSet {
  public:
-  SqliteRecordSet(std::shared_ptr<Connection> connection, const std::string& table);
+  /// `source` is a table's name or a query that `parseSelection` reads.
+  SqliteRecordSet(std::shared_ptr<Connection> connection, const std::string& source);
 
   bool isBof() const override { return keys_.empty(); }
   bool isEof() const override { return current_ >= keys_.size(); }
@@ -32,23 +36,32 @@ class SqliteRecordSet : public RecordSet {
  private:
   enum class Change { none, add, edit };
 
+  struct Source {
+    std::string table;  // these three as SQL wants them or by the table's own names
+    std::string key;
+    std::vector<std::string> columns;
+  };
+
+  SqliteRecordSet(std::shared_ptr<Connection> connection, Source source);
+  static Source sourceOf(const Connection& connection, const std::string& text);
+
   sqlite3_int64 currentKey() const;
   /// The table's own name of the column. A failure when there is none.
-  const std::string& ownName(const std::string& column) const;
+  const std::string& ownName(const std::string& column) const { return columns_[place(column)]; }
+  std::size_t place(const std::string& column) const;
+  void findFirst(const Criterion& criterion, const std::string& column);
   void forgetChange();
   void insertRow();
   void addKey(sqlite3_int64 key);
   void updateRow();
 
-  /// The statement that reads the column, by the table's own name, of the row with a given key.
-  Statement& reader(const std::string& column);
-
   std::shared_ptr<Connection> connection_;
   const std::string table_;
-  std::vector<std::string> columns_;
-  std::map<std::string, Statement> readers_;  // kept, since a walk asks for each column of each row
-  std::vector<sqlite3_int64> keys_;           // ascending
-  std::size_t current_ = 0;                   // into keys_; its size is the end
+  const std::string key_;
+  const std::vector<std::string> columns_;
+  RowsAhead rows_;
+  std::vector<sqlite3_int64> keys_;  // ascending
+  std::size_t current_ = 0;          // into keys_; its size is the end
   bool noMatch_ = false;
   Change change_ = Change::none;
   std::map<std::string, std::string> values_;  // of the change, by the table's own names, in UTF-8

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 
 #include "platform/database.h"
@@ -10,12 +11,13 @@
 
 namespace gsm {
 
-/// An engine that tells of the first database that can't be used, once in its life, and goes on
-/// failing as before. Handlers end silently on such a failure, and somebody should learn of it.
+/// An engine that tells of what goes wrong with a file, of each kind of failure once in its life,
+/// and goes on failing as before. Handlers end silently on such a failure, and somebody should
+/// learn of it. What a handler asks for in vain it keeps to itself.
 class TellingEngine : public DatabaseEngine {
  public:
   /// `tell` is given what to show: the file's full name, what is wrong and what to do. The engine
-  /// outlives the databases that it opens.
+  /// outlives the databases that it opens and their record sets.
   TellingEngine(DatabaseEngine& engine, std::function<void(const std::string&)> tell)
       : engine_(engine), tell_(std::move(tell)) {}
 
@@ -23,6 +25,7 @@ class TellingEngine : public DatabaseEngine {
 
  private:
   class TellingDatabase;
+  class TellingRecordSet;
 
   /// What `work` gives for `file`; tells of its failure before it passes it on.
   template <class Work>
@@ -31,7 +34,7 @@ class TellingEngine : public DatabaseEngine {
 
   DatabaseEngine& engine_;
   std::function<void(const std::string&)> tell_;
-  bool told_ = false;
+  std::set<int> told_;  // numbers of failures
 };
 
 }  // namespace gsm

@@ -88,6 +88,42 @@ TEST_F(PhoneBookImportTest, LettersThatTheProgramLacksAreCounted) {
   EXPECT_EQ(rowsOf("DATA", {"Name"}), std::vector<std::string>{"|?????"});
 }
 
+TEST_F(PhoneBookImportTest, ControlCharactersAreLeftOutOfWhatGoesIntoCommands) {
+  const Version version = Version::jet4;
+  lay(oldBook(version, {entry(version, "1\r", "1\rATD112;\r\n", "An\rna"),
+                        entry(version, "2", "+49\x7F\x1B", "Bert")}));
+  const PhoneBookImport result = bringOver();
+  EXPECT_EQ(rowsOf("DATA", {"Index", "Number", "Name"}),
+            (std::vector<std::string>{"|1|1ATD112;|An\rna", "|2|+49|Bert"}));
+  EXPECT_EQ(result.controlCharacters, 3u);
+}
+
+TEST_F(PhoneBookImportTest, AFileWhoseNameDiffersInCaseOnlyIsInTheWay) {
+  lay(oldBook(Version::jet4, {}));
+  folder_.write("NEW.mdb", "somebody's entries");
+  EXPECT_EQ(failureOfImport(),
+            "There is a file '" + (folder_.path() / "NEW.mdb").string() + "' already.");
+  EXPECT_EQ(files(), (std::set<std::string>{"old.mdb", "NEW.mdb"}));
+}
+
+TEST_F(PhoneBookImportTest, AJournalOfABookThatIsGoneIsInTheWay) {
+  lay(oldBook(Version::jet4, {}));
+  folder_.write("new.mdb-journal", "old changes");
+  EXPECT_NE(failureOfImport().find("new.mdb-journal', left of a phone book that is gone"),
+            std::string::npos);
+  EXPECT_EQ(files(), (std::set<std::string>{"old.mdb", "new.mdb-journal"}));
+}
+
+TEST_F(PhoneBookImportTest, WhatAKilledImportLeftGoesEvenWithOneThatIsRefused) {
+  lay(oldBook(Version::jet4, {}));
+  folder_.write("new.mdb", "somebody's entries");
+  fs::create_directory(folder_.path() / "new.mdb.unfinished-ABCDEF");
+  folder_.write("new.mdb.unfinished-ABCDEF/phonebook.mdb", "half");
+  folder_.write("new.mdb.unfinished-ABCDEF/phonebook.mdb-journal", "half");
+  EXPECT_NE(failureOfImport(), "");
+  EXPECT_EQ(files(), (std::set<std::string>{"old.mdb", "new.mdb"}));
+}
+
 TEST_F(PhoneBookImportTest, TheOldFileStaysAsItIs) {
   lay(oldBook(Version::jet3, {entry(Version::jet3, "1", "112", "Emergency")}));
   fs::last_write_time(old_, fs::file_time_type::clock::now() - std::chrono::hours(1000));

@@ -101,10 +101,11 @@ TEST_F(PhoneBookPrograms, WrongUsageEndsWithTheUsage) {
     EXPECT_EQ(done.exit, 2) << arguments;
     EXPECT_EQ(done.output.find("usage: phonebook-import OLD NEW\n"), 0u) << arguments;
   }
-  for (const char* arguments : {"", "one two", "-v"}) {
+  for (const char* arguments :
+       {"", "one two", "-v", "--unless-there", "--unless-there -v", "--other one"}) {
     const Ran done = runCreate(arguments);
     EXPECT_EQ(done.exit, 2) << arguments;
-    EXPECT_EQ(done.output.find("usage: phonebook-create FILE\n"), 0u) << arguments;
+    EXPECT_EQ(done.output.find("usage: phonebook-create [--unless-there] FILE\n"), 0u) << arguments;
   }
 }
 
@@ -120,6 +121,32 @@ TEST_F(PhoneBookPrograms, CreateMakesAnEmptyBook) {
   const auto book = SqliteEngine().OpenDatabase(folder_.path() / "book.mdb");
   EXPECT_TRUE(book->openRecordSet("DATA")->isEof());
   EXPECT_TRUE(book->openRecordSet("Details")->isEof());
+}
+
+TEST_F(PhoneBookPrograms, ImportTellsOfControlCharacters) {
+  folder_.write("old.mdb",
+                fileOf(oldBook(Version::jet4, {entry(Version::jet4, "1", "1\r2", "Anna")})));
+  EXPECT_EQ(runImport(file("old.mdb") + " " + file("new.mdb")).output,
+            "DATA: 1 row\nDetails: 1 row\n"
+            "Numbers and locations with control characters, which are left out: 1\n");
+}
+
+TEST_F(PhoneBookPrograms, CreateUnlessThereLeavesOneOfEverySpelling) {
+  folder_.write("BOOK.mdb", "somebody's entries");
+  const Ran done = runCreate("--unless-there " + file("book.mdb"));
+  EXPECT_EQ(done.exit, 0);
+  EXPECT_EQ(done.output, "");
+  EXPECT_EQ(folder_.read("book.mdb"), std::nullopt);
+  EXPECT_EQ(runCreate("--unless-there " + file("other.mdb")).exit, 0);
+  EXPECT_NE(folder_.read("other.mdb"), std::nullopt);
+}
+
+TEST_F(PhoneBookPrograms, CreateUnlessThereRefusesTwins) {
+  folder_.write("BOOK.mdb", "");
+  folder_.write("book.mdb", "");
+  const Ran done = runCreate("--unless-there " + file("book.mdb"));
+  EXPECT_EQ(done.exit, 1);
+  EXPECT_EQ(done.output.find("phonebook-create: There are 2 files of that name: "), 0u);
 }
 
 TEST_F(PhoneBookPrograms, CreateLeavesAFileThatIsThere) {

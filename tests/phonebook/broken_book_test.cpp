@@ -6,6 +6,7 @@
 #include "panel/form1.h"
 #include "phonebook/form4.h"
 #include "tests/phonebook/download_test.h"
+#include "tests/phonebook/failing_database.h"
 #include "tests/support/rows.h"
 
 namespace gsm {
@@ -132,6 +133,7 @@ INSTANTIATE_TEST_SUITE_P(
 class HeldBook : public DamagedBook {
  protected:
   void SetUp() override {
+    useDatabase(std::make_shared<SqliteEngine>(/*patience=*/std::chrono::milliseconds(0)));
     DamagedBook::SetUp();
     layEntries({{"1", "112", "HELP"}});
     layCounts("100", "1");
@@ -246,14 +248,21 @@ struct RefusalRow {
   std::string change;  // what is refused, of which table
 };
 
-class RefusingBook : public DamagedBook, public ::testing::WithParamInterface<RefusalRow> {};
+class RefusingBook : public DamagedBook, public ::testing::WithParamInterface<RefusalRow> {
+ protected:
+  void SetUp() override {
+    useDatabase(engine_);
+    DamagedBook::SetUp();
+  }
+
+  const std::shared_ptr<FailingEngine> engine_ = std::make_shared<FailingEngine>();
+};
 
 TEST_P(RefusingBook, LetsEveryHandlerEndSilently) {
   layEntries({{"1", "112", "HELP"}, {"2", "113", "MORE"}});
   layCounts("100", "2");
   openCalls();
-  execute("create trigger Refusal before " + GetParam().change +
-          " begin select raise(abort, 'read-only'); end");
+  engine_->refuse(GetParam().change);
   reply("AT+CPBW=2", kOk);
   select(1);
   click(calls().Command3);
@@ -276,7 +285,8 @@ TEST_P(RefusingBook, LetsEveryHandlerEndSilently) {
   EXPECT_FALSE(ended());
   form1().Timer2.Enabled = false;
   settle();
-  execute("drop trigger Refusal");
+  EXPECT_TRUE(engine_->hasRefused());
+  engine_->refuse("");
   clearTranscript();
   click(calls().Command5);
   settle();

@@ -165,5 +165,29 @@ TEST_F(DeleteEntry, WithoutItsTableEndsBehindTheWindowsCounts) {
   EXPECT_FALSE(ended());
 }
 
+TEST_F(DeleteEntry, WithACommandInItsLocationSendsNoSecondOne) {
+  struct LocationRow {
+    std::string location;
+    std::string command;
+  };
+  const std::vector<LocationRow> locations = {
+      {.location = "2\rATD112;\r", .command = "AT+CPBW=2\r"},
+      {.location = "2\nATD112;\r", .command = "AT+CPBW=2\r"},
+      {.location = std::string("2\x1A\x1B\0\x7F", 5) + "3", .command = "AT+CPBW=23\r"},
+      {.location = "\rATD112;", .command = "AT+CPBW=\r"}};
+  Texts commands;
+  for (const LocationRow& each : locations) {
+    layEntries({{each.location, "112", "TWO"}});
+    commands.push_back(each.command);
+    reply(each.command.substr(0, each.command.size() - 1), kOk);
+  }
+  layCounts("100", "4");
+  openCalls();
+  for (std::size_t left = locations.size(); left > 0; --left) remove(0);
+  EXPECT_EQ(sent(), commands);
+  EXPECT_EQ(rows(), Texts{});
+  EXPECT_EQ(storedEntries(), BookRows{});
+}
+
 }  // namespace
 }  // namespace gsm

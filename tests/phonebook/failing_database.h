@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "link/text.h"
 #include "platform/database.h"
 #include "platform/runtime_failure.h"
 #include "platform/sqlite/sqlite_engine.h"
@@ -23,6 +24,14 @@ class FailingEngine : public DatabaseEngine {
   int done() const { return done_; }
   bool hasFailed() const { return left_ < 0; }
 
+  /// From now on changes of this kind are refused: "insert on DATA", and so on for `update` and
+  /// `delete`; with an empty text none is.
+  void refuse(const std::string& change) {
+    refused_ = upperCase(change);
+    hasRefused_ = false;
+  }
+  bool hasRefused() const { return hasRefused_; }
+
   /// What was searched for since the last call.
   std::vector<std::string> takeCriteria() { return std::exchange(criteria_, {}); }
 
@@ -40,10 +49,16 @@ class FailingEngine : public DatabaseEngine {
     }
   }
 
+  void check(const std::string& kind, const std::string& table) {
+    if (upperCase(kind + " on " + table) != refused_) return;
+    hasRefused_ = true;
+    throw RuntimeFailure(3027, "Can't update. Database or object is read-only.");
+  }
+
   class FailingSet : public RecordSet {
    public:
-    FailingSet(FailingEngine& engine, std::unique_ptr<RecordSet> set)
-        : engine_(engine), set_(std::move(set)) {}
+    FailingSet(FailingEngine& engine, std::string table, std::unique_ptr<RecordSet> set)
+        : engine_(engine), table_(std::move(table)), set_(std::move(set)) {}
 
     bool isBof() const override { return set_->isBof(); }
     bool isEof() const override { return set_->isEof(); }
@@ -55,13 +70,25 @@ class FailingEngine : public DatabaseEngine {
       counted().FindFirst(criterion);
     }
     std::string field(const std::string& column) override { return counted().field(column); }
-    void AddNew() override { counted().AddNew(); }
-    void Edit() override { counted().Edit(); }
+    void AddNew() override {
+      counted().AddNew();
+      change_ = "insert";
+    }
+    void Edit() override {
+      counted().Edit();
+      change_ = "update";
+    }
     void setField(const std::string& column, const std::string& value) override {
       counted().setField(column, value);
     }
-    void Update() override { counted().Update(); }
-    void Delete() override { counted().Delete(); }
+    void Update() override {
+      engine_.check(change_, table_);
+      counted().Update();
+    }
+    void Delete() override {
+      engine_.check("delete", table_);
+      counted().Delete();
+    }
 
    private:
     RecordSet& counted() {
@@ -70,6 +97,8 @@ class FailingEngine : public DatabaseEngine {
     }
 
     FailingEngine& engine_;
+    const std::string table_;
+    std::string change_;
     std::unique_ptr<RecordSet> set_;
   };
 
@@ -80,11 +109,15 @@ class FailingEngine : public DatabaseEngine {
 
     void Execute(const std::string& statement) override {
       engine_.count();
+      const std::string emptying = "delete from ";
+      if (statement.starts_with(emptying)) {
+        engine_.check("delete", statement.substr(emptying.size()));
+      }
       book_->Execute(statement);
     }
-    std::unique_ptr<RecordSet> openRecordSet(const std::string& table) override {
+    std::unique_ptr<RecordSet> openRecordSet(const std::string& source) override {
       engine_.count();
-      return std::make_unique<FailingSet>(engine_, book_->openRecordSet(table));
+      return std::make_unique<FailingSet>(engine_, source, book_->openRecordSet(source));
     }
 
    private:
@@ -95,6 +128,8 @@ class FailingEngine : public DatabaseEngine {
   SqliteEngine engine_;
   int left_ = 0;
   int done_ = 0;
+  std::string refused_;
+  bool hasRefused_ = false;
   std::vector<std::string> criteria_;
 };
 

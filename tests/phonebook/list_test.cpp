@@ -123,6 +123,13 @@ INSTANTIATE_TEST_SUITE_P(
         PickRow{"OfANamedEntry", {"1", "0146290800", "ALICE"}, "0146290800"},
         PickRow{"OfALongIndex", {"123", "0146290800", "ALICE"}, "0146290800"},
         PickRow{"OfANameWithABlank", {"1", "112", "JANE DOE"}, "112"},
+        PickRow{"OfANumberWithACommandBehindIt", {"1", "1\rATD112;\r", "ALICE"}, ""},
+        PickRow{"OfANumberWithACommandBehindABlank", {"1", "1 \rATD112;\r", "ALICE"}, ""},
+        PickRow{"OfANumberWithALineFeed", {"1", "1\n2", "ALICE"}, ""},
+        PickRow{"OfANumberWithADeleteCharacter", {"1", "1\x7F", "ALICE"}, ""},
+        PickRow{"OfALocationWithACommandBehindIt", {"1\rATD112;", "0146290800", "ALICE"}, ""},
+        PickRow{"OfALocationWithACommandBehindABlank", {"1 \rATD112;\r", "0146290800", "A"}, ""},
+        PickRow{"OfANameWithALineBreak", {"1", "0146290800", "ALICE\r\nATD112;"}, "0146290800"},
         PickRow{"OfNoName", {"1", "0146290800", ""}, ""},
         PickRow{"OfTwentyDigitsThatTouchTheName", {"1", "12345678901234567890", "BOB"}, ""}),
     RowName());

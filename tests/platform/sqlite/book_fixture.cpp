@@ -1,5 +1,8 @@
 #include "tests/platform/sqlite/book_fixture.h"
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "platform/runtime_failure.h"
 #include "platform/sqlite/phone_book_file.h"
 
@@ -12,6 +15,20 @@ Failed failureOf(const std::function<void()>& action) {
     return {failure.number(), failure.description()};
   }
   return {};
+}
+
+bool holdsInChild(const std::function<bool()>& check) {
+  const pid_t child = fork();
+  if (child == 0) {
+    bool held = false;
+    try {
+      held = check();
+    } catch (...) {}
+    _exit(held ? 0 : 1);
+  }
+  int status = -1;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 BookTest::BookTest() {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -21,6 +22,12 @@ struct Failed {
 };
 
 Failed failureOf(const std::function<void()>& action);
+
+/// Whether `check` holds in a process of its own.
+bool holdsInChild(const std::function<bool()>& check);
+
+/// For engines that don't wait for a file that is held.
+constexpr std::chrono::milliseconds kAtOnce{0};
 
 /// An empty phone book in a folder of the test's own, opened.
 class BookTest : public ::testing::Test {

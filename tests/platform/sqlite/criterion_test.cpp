@@ -94,14 +94,15 @@ INSTANTIATE_TEST_SUITE_P(
                       Met{"BlankInFront", {}, " Anna", "Anna", false},
                       Met{"LongerText", {}, "Annas", "Anna", false},
                       Met{"LongerValue", {}, "Anna", "Annas", false},
-                      Met{"Empty", {}, "", "  ", true},
+                      Met{"Empty", {}, "", "", false}, Met{"Blank", {}, "  ", "  ", false},
+                      Met{"BlankOfAnEmptyValue", 10, " ", "", false},
                       Met{"MultiplicationAndDivision", {}, "\xD7", "\xF7", false},
                       Met{"SharpSAndY", {}, "\xDF", "\xFF", false},
                       Met{"Last", 3, "567", "1234567", true},
                       Met{"LastOfAShorterValue", 10, "112", "112", true},
                       Met{"LastIsTakenBeforeTheBlanksGo", 3, "7", "4567  ", true},
                       Met{"NotMoreThanTheLast", 3, "4567", "4567", false},
-                      Met{"LastOfNothing", 0, "", "4567", true}),
+                      Met{"LastOfNothing", 0, "", "4567", false}),
     [](const auto& tested) { return tested.param.name; });
 
 TEST_P(MetCriterion, IsMetByTextsThatAreEqual) {

@@ -1,3 +1,6 @@
+#include <fcntl.h>
+
+#include "platform/sqlite/phone_book_file.h"
 #include "tests/platform/sqlite/book_fixture.h"
 
 namespace gsm {
@@ -23,11 +26,43 @@ TEST_F(Engine, NamesOfFilesIgnoreCase) {
   }
 }
 
-TEST_F(Engine, AFileOfExactlyThatNameWins) {
+TEST_F(Engine, EverySpellingReachesTheSameOfTwoFiles) {
   fs::copy(file_, folder_.path() / "PHONEBOOK.MDB");
   add({"Anna"});
-  const auto other = SqliteEngine().OpenDatabase(folder_.path() / "PHONEBOOK.MDB");
-  EXPECT_TRUE(other->openRecordSet("DATA")->isEof());
+  for (const char* name : {"phonebook.mdb", "PhoneBook.mdb", "PHONEBOOK.MDB"}) {
+    const auto book = SqliteEngine().OpenDatabase(folder_.path() / name);
+    EXPECT_FALSE(book->openRecordSet("DATA")->isEof()) << name;
+  }
+}
+
+TEST_F(Engine, NamesThatMeanMoreToTheLibraryAreNames) {
+  const fs::path before = fs::current_path();
+  fs::current_path(folder_.path());
+  add({"Anna"});
+  for (const char* name : {"file:other.mdb", "file:phonebook.mdb?mode=ro", ":memory:"}) {
+    const Failed making = failureOf([&] { createPhoneBook(name); });
+    EXPECT_EQ(making.description, "") << name;
+    EXPECT_TRUE(fs::is_regular_file(folder_.path() / name)) << name;
+    const Failed reading = failureOf([&] {
+      EXPECT_TRUE(SqliteEngine().OpenDatabase(name)->openRecordSet("DATA")->isEof()) << name;
+    });
+    EXPECT_EQ(reading.description, "") << name;
+  }
+  fs::current_path(before);
+  EXPECT_EQ(stored(), std::vector<std::string>{"Anna"});
+}
+
+// The system lets go of all that a program has locked of a file when it closes the file once.
+TEST_F(Engine, LookingForAnOldMachinesFileKeepsTheLocks) {
+  const auto other = open();
+  other->Execute("begin exclusive");
+  EXPECT_EQ(failureOf([this] { SqliteEngine(kAtOnce).OpenDatabase(file_); }).number, 3218);
+  EXPECT_TRUE(holdsInChild([this] {
+    const int file = ::open(file_.c_str(), O_RDWR);
+    struct flock lock {};
+    lock.l_type = F_WRLCK;
+    return fcntl(file, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
+  }));
 }
 
 TEST_F(Engine, ANameWithoutAFolderIsOfTheCurrentOne) {

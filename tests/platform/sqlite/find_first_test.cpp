@@ -70,10 +70,18 @@ TEST_F(FindFirst, OtherWhiteSpaceBehindTheTextMatters) {
   EXPECT_EQ(find("Name='Anna'"), "2");
 }
 
-TEST_F(FindFirst, AnEmptyTextFindsWhatIsEmptyOrNotSet) {
-  add({"Anna", ""});
-  EXPECT_EQ(find("Name=''"), "2");
-  EXPECT_EQ(find("Number=''"), "1");
+TEST_F(FindFirst, ABlankTextFindsNothing) {
+  add({"Anna", "", "  "});
+  book_->Execute("insert into data values ('4', null, null)");
+  for (const char* text : {"", " ", "   "}) {
+    EXPECT_EQ(find("Name='" + std::string(text) + "'"), "") << "'" << text << "'";
+    EXPECT_EQ(find("right(number,10) = '" + std::string(text) + " '"), "") << "'" << text << "'";
+  }
+}
+
+TEST_F(FindFirst, TheBlankBeforeTheClosingQuoteDoesNotCount) {
+  add({"Anna", "NAME"});
+  EXPECT_EQ(find("name = 'NAME ' "), "2");
 }
 
 TEST_F(FindFirst, RightComparesTheLastCharacters) {
@@ -92,9 +100,9 @@ TEST_F(FindFirst, RightTakesAShorterTextWhole) {
   EXPECT_EQ(find("right(number,2147483647)='112'"), "1");
 }
 
-TEST_F(FindFirst, RightOfNothingIsEmpty) {
+TEST_F(FindFirst, RightOfNothingIsEmptyAndMeetsNothing) {
   addNumber("1", "112");
-  EXPECT_EQ(find("right(number,0)=''"), "1");
+  EXPECT_EQ(find("right(number,0)=''"), "");
   EXPECT_EQ(find("right(number,0)='2'"), "");
 }
 

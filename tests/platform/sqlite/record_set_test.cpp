@@ -138,6 +138,22 @@ TEST_F(RecordSetTest, NothingIsSetOrStoredWithoutAnAddNewOrAnEdit) {
   EXPECT_EQ(stored(), Names{"Anna"});
 }
 
+TEST_F(RecordSetTest, AnEditThatFailedBeginsNothing) {
+  add({"Anna"});
+  const auto set = entries();
+  set->MoveNext();
+  const Failed edit = failureOf([&] { set->Edit(); });
+  EXPECT_EQ(edit.number, 3021);
+  EXPECT_EQ(edit.description, "No current record.");
+  const Failed setting = failureOf([&] { set->setField("Name", "Bert"); });
+  EXPECT_EQ(setting.number, 3020);
+  EXPECT_EQ(setting.description, "Update or CancelUpdate without AddNew or Edit.");
+  const Failed update = failureOf([&] { set->Update(); });
+  EXPECT_EQ(update.number, 3020);
+  EXPECT_EQ(update.description, "Update or CancelUpdate without AddNew or Edit.");
+  EXPECT_EQ(stored(), Names{"Anna"});
+}
+
 TEST_F(RecordSetTest, MovingForgetsWhatWasNotStored) {
   add({"Anna", "Bert"});
   const auto set = entries();

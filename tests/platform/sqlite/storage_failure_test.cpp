@@ -4,8 +4,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <csignal>
 
+#include "platform/sqlite/connection.h"
 #include "platform/sqlite/phone_book_file.h"
 #include "tests/platform/sqlite/book_fixture.h"
 
@@ -13,21 +15,6 @@ namespace gsm {
 namespace {
 
 namespace fs = std::filesystem;
-
-// Whether `check` holds in a process of its own.
-bool holdsInChild(const std::function<bool()>& check) {
-  const pid_t child = fork();
-  if (child == 0) {
-    bool held = false;
-    try {
-      held = check();
-    } catch (...) {}
-    _exit(held ? 0 : 1);
-  }
-  int status = -1;
-  waitpid(child, &status, 0);
-  return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
 
 // Without the rights of root, for as long as it lives: root may read and write all files.
 class WithoutPrivileges {
@@ -90,17 +77,63 @@ TEST_F(StorageFailure, AnUpdateOutlivesTheSuddenEndOfItsProcess) {
 
 TEST_F(StorageFailure, ALockedFileIsAFailureUntilItIsFree) {
   add({"Anna"});
-  const auto set = entries();
+  const auto set = SqliteEngine(kAtOnce).OpenDatabase(file_)->openRecordSet("DATA");
   const auto other = open();
   other->Execute("begin exclusive");
   const Failed reading = failureOf([&] { set->field("Name"); });
   EXPECT_EQ(reading.number, 3218);
   EXPECT_EQ(reading.description, "Couldn't update; currently locked: database is locked");
   EXPECT_EQ(failureOf([&] { addTo(*set, "Bert"); }).number, 3218);
-  EXPECT_EQ(failureOf([&] { open(); }).number, 3218);
+  EXPECT_EQ(failureOf([&] { SqliteEngine(kAtOnce).OpenDatabase(file_); }).number, 3218);
   other->Execute("commit");
   set->Update();  // the row that could not be stored is still there to be
   EXPECT_EQ(stored(), (std::vector<std::string>{"Anna", "Bert"}));
+}
+
+// Another process changes the file, and lets it go only a moment after this one has come to it.
+TEST_F(StorageFailure, AChangeWaitsForAnotherProgramThatHoldsTheFile) {
+  std::array<int, 2> ends{};
+  ASSERT_EQ(pipe(ends.data()), 0);
+  book_.reset();
+  const pid_t child = fork();
+  if (child == 0) {
+    const auto other = open();
+    other->Execute("begin exclusive");
+    const bool told = write(ends[1], "x", 1) == 1;
+    usleep(50'000);
+    other->Execute("commit");
+    _exit(told ? 0 : 1);
+  }
+  char held = 0;
+  ASSERT_EQ(read(ends[0], &held, 1), 1);
+  EXPECT_EQ(failureOf([this] {
+              addTo(
+                  *SqliteEngine(std::chrono::minutes(1)).OpenDatabase(file_)->openRecordSet("DATA"),
+                  "Anna");
+            }).description,
+            "");
+  waitpid(child, nullptr, 0);
+  close(ends[0]);
+  close(ends[1]);
+  EXPECT_EQ(stored(), std::vector<std::string>{"Anna"});
+}
+
+TEST_F(StorageFailure, EveryConnectionWaitsASecondForOthers) {
+  const Connection connection(file_);
+  Statement query(connection, "PRAGMA busy_timeout");
+  ASSERT_TRUE(query.step());
+  EXPECT_EQ(query.number(0), 1000);
+}
+
+TEST_F(StorageFailure, WantOfMemoryIsAFailureLikeAnyOther) {
+  add({"Anna"});
+  EXPECT_TRUE(holdsInChild([this] {
+    const auto set = entries();
+    sqlite3_hard_heap_limit64(sqlite3_memory_used() + 100);
+    const int opening = failureOf([this] { open(); }).number;
+    const int reading = failureOf([&] { set->FindFirst("Name='Anna'"); }).number;
+    return opening == 7 && reading == 7;
+  }));
 }
 
 TEST_F(StorageFailure, AReadOnlyFileCanBeReadAndNotChanged) {

@@ -26,8 +26,6 @@ TEST_F(StrangeFile, WhatIsNotSetIsAnEmptyText) {
   book_->Execute("insert into data values (null, null, null)");
   const auto set = entries();
   for (const char* column : {"Index", "Number", "Name"}) EXPECT_EQ(set->field(column), "");
-  set->FindFirst("right(number,10)=''");
-  EXPECT_FALSE(set->NoMatch());
 }
 
 TEST_F(StrangeFile, NumbersAreTheirDigits) {

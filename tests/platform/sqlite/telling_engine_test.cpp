@@ -11,7 +11,7 @@ class Telling : public BookTest {
     return failureOf([&] { engine_.OpenDatabase(folder_.path() / name); });
   }
 
-  SqliteEngine plain_;
+  SqliteEngine plain_{kAtOnce};
   std::vector<std::string> told_;
   TellingEngine engine_{plain_, [this](const std::string& text) { told_.push_back(text); }};
 };
@@ -64,6 +64,56 @@ TEST_F(Telling, AStatementThatFailsIsToldOf) {
   EXPECT_EQ(told_, std::vector<std::string>{});
   EXPECT_NE(failureOf([&] { database->Execute("delete from nothing"); }).number, 0);
   EXPECT_EQ(told_.size(), 1u);
+}
+
+TEST_F(Telling, TheFileIsNamedAsItIsReallySpelled) {
+  folder_.write("Text.MDB", std::string(5000, 'x'));
+  open("text.mdb");
+  ASSERT_EQ(told_.size(), 1u);
+  EXPECT_NE(told_[0].find((folder_.path() / "Text.MDB").string()), std::string::npos);
+}
+
+TEST_F(Telling, AChangeThatFailsIsToldOfOnceWhateverWasToldBefore) {
+  open("none.mdb");
+  told_.clear();
+  const auto set = engine_.OpenDatabase(file_)->openRecordSet("DATA");
+  const auto other = this->BookTest::open();
+  other->Execute("begin immediate");
+  for (int time = 0; time < 2; ++time) {
+    set->AddNew();
+    set->setField("Name", "Anna");
+    EXPECT_EQ(failureOf([&] { set->Update(); }).number, 3218);
+  }
+  EXPECT_EQ(failureOf([&] { set->MoveFirst(); }).number, 3021);
+  ASSERT_EQ(told_.size(), 1u);
+  EXPECT_NE(told_[0].find(file_.string() + " can't be used: Couldn't update; currently locked"),
+            std::string::npos);
+}
+
+TEST_F(Telling, ADeletionThatFailsIsToldOf) {
+  add({"Anna"});
+  const auto set = engine_.OpenDatabase(file_)->openRecordSet("DATA");
+  const auto other = this->BookTest::open();
+  other->Execute("begin immediate");
+  EXPECT_EQ(failureOf([&] { set->Delete(); }).number, 3218);
+  EXPECT_EQ(told_.size(), 1u);
+}
+
+TEST_F(Telling, AReadingThatFailsIsToldOf) {
+  add({"Anna"});
+  const auto set = engine_.OpenDatabase(file_)->openRecordSet("DATA");
+  EXPECT_EQ(failureOf([&] { set->field("Phone"); }).number, 3265);
+  EXPECT_EQ(told_.size(), 1u);
+}
+
+TEST_F(Telling, WhatAHandlerAsksForInVainIsNotToldOf) {
+  add({"O'Neil"});
+  const auto set = engine_.OpenDatabase(file_)->openRecordSet("DATA");
+  EXPECT_EQ(failureOf([&] { set->FindFirst("Name='O'Neil'"); }).number, 3077);
+  EXPECT_EQ(failureOf([&] { set->Update(); }).number, 3020);
+  book_->Execute("delete from data");
+  EXPECT_EQ(failureOf([&] { set->field("Name"); }).number, 3167);
+  EXPECT_EQ(told_, std::vector<std::string>{});
 }
 
 TEST_F(Telling, ItsDatabasesWorkAsTheOnesBehindThem) {
