@@ -7,6 +7,8 @@ namespace gsm {
 // "PhoneBook". The reply about the service centre is routed to its own reader during the wait.
 void Form8::listNames() try {
   Data1.Refresh();
+  // For the next refresh: this list is read from the record set that is open by now.
+  Data1.RecordSource = "select name from data";
   RecordSet& entries = Data1.Recordset();
   if (entries.isEof() || entries.isBof()) {
     platform().boxes.show("Empty !No Numbers Stored", "GSM");
@@ -26,6 +28,7 @@ void Form8::listNames() try {
 }
 
 void Form8::pickName() try {
+  Data1.RecordSource = "select * from data";
   const int selected = List1.ListIndex;
   const std::string name =
       selected < 0 ? std::string() : List1.List.get()[static_cast<std::size_t>(selected)];

@@ -184,10 +184,11 @@ INSTANTIATE_TEST_SUITE_P(
     RowName());
 
 TEST_F(Send, GoesInOneWriteWithEachOfTheCodePagesBytes) {
-  for (int first = 0; first < 256; first += 64) {
+  for (const int first : {0, 256 - Form8::kMessageLength}) {
     std::string text;
-    for (int byte = first; byte < first + 64; ++byte) text += static_cast<char>(byte);
-    text = "<" + text + ">";
+    for (int byte = first; byte < first + Form8::kMessageLength; ++byte) {
+      text += static_cast<char>(byte);
+    }
     compose("12345", text);
     send();
     EXPECT_EQ(sent(), (Texts{"AT+CMGS=12345\r", text + kEnd})) << first;
