@@ -1,6 +1,7 @@
 // What 10,000 entries in the phone book cost: naming a caller, finding an entry by its location,
-// and opening the call window. Each beside what the bare library takes for the same answer in the
-// same run: with an index that the phone book's own file doesn't have, and with nothing around it.
+// opening the call window, and listing the names for a message. Each beside what the bare library
+// takes for the same answer in the same run: with an index that the phone book's own file doesn't
+// have, and with nothing around it.
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
@@ -14,6 +15,7 @@
 #include "phonebook/form3.h"
 #include "platform/sqlite/phone_book_file.h"
 #include "platform/sqlite/sqlite_engine.h"
+#include "sms/form8.h"
 #include "tests/support/temporary_folder.h"
 
 namespace gsm {
@@ -195,6 +197,22 @@ void openCallWindow(benchmark::State& state) {
   }
 }
 BENCHMARK(openCallWindow)->Arg(250)->Arg(kRows)->Unit(benchmark::kMillisecond);
+
+// The message window lists all names: "PhoneBook", up to the question for the service centre, which
+// a closed port ends.
+void listNames(benchmark::State& state) {
+  const auto rows = static_cast<int>(state.range(0));
+  const TemporaryFolder folder;
+  layBook(folder.path() / "phonebook.mdb", /*withIndexes=*/false, rows);
+  HeadlessPanel world(folder.path(), {2026, 3, 1, 10, 0, 0});
+  Form8& messages = world.panel.form8;
+  messages.Show();
+  for (auto _ : state) {
+    messages.Command6.userClick();
+    if (messages.List1.ListCount() != rows) state.SkipWithError("the list isn't whole");
+  }
+}
+BENCHMARK(listNames)->Arg(250)->Arg(kRows)->Unit(benchmark::kMillisecond);
 
 // The least that the same rows can cost: one query into a vector.
 void selectIntoVector(benchmark::State& state) {

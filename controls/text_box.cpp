@@ -78,9 +78,27 @@ bool TextBox::userErase() { return userEdit("", 0); }
 
 bool TextBox::userEdit(std::string text, int caret) {
   if (!isReachable()) return false;
-  Text.store(cut(multiLine_ ? std::move(text) : singleLine(text)));
+  Text.store(admitted(multiLine_ ? std::move(text) : singleLine(text)));
   moveCaret(caret);
   return true;
+}
+
+std::string TextBox::admitted(std::string text) const {
+  const auto limit = static_cast<std::size_t>(MaxLength.peek());
+  if (limit == 0 || text.size() <= limit) return text;
+  // What was put in lies between the beginning and the end that the text has kept.
+  const std::string& old = Text.peek();
+  const auto from = std::mismatch(text.begin(), text.end(), old.begin(), old.end()).first;
+  const auto kept = std::mismatch(text.rbegin(), std::make_reverse_iterator(from), old.rbegin(),
+                                  old.rend() - (from - text.begin()))
+                        .first;
+  const auto to = kept.base();
+  const auto excess = static_cast<std::ptrdiff_t>(text.size() - limit);
+  auto end = to - std::min(excess, to - from);
+  // No line end goes in by half.
+  if (end != from && end != to && *end == '\n' && *(end - 1) == '\r') --end;
+  text.erase(end, to);
+  return text;
 }
 
 void TextBox::stored(PropertyId property) {

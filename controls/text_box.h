@@ -52,6 +52,10 @@ class TextBox : public Control {
   /// Has edited the text to `text` with the caret at `caret`, by means of the view's own.
   bool userEdit(std::string text, int caret);
 
+  /// What the box takes of an edit of its text to `text`: of what the edit puts in, as much as
+  /// `MaxLength` leaves room for. What stood there before stays, even beyond the limit.
+  std::string admitted(std::string text) const;
+
   bool isMasked() const { return masked_; }
   bool isMultiLine() const { return multiLine_; }
 

@@ -66,6 +66,44 @@ TEST_F(TextBoxTest, AnEditOfTheViewIsCutAndKeepsTheCaretInsideTheText) {
   EXPECT_EQ(shortBox().SelStart.get(), 2);
 }
 
+struct EditRow {
+  std::string name;
+  std::string before;
+  int limit;
+  std::string edit;
+  std::string text;
+};
+
+class TextBoxEdit : public TextBoxTest, public ::testing::WithParamInterface<EditRow> {};
+
+TEST_P(TextBoxEdit, LosesWhatItPutsInBeyondTheLimitAlone) {
+  box().Text = GetParam().before;
+  box().MaxLength = GetParam().limit;
+  EXPECT_TRUE(box().userEdit(GetParam().edit, 0));
+  EXPECT_EQ(box().Text.get(), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, TextBoxEdit,
+    ::testing::Values(EditRow{"NothingWithoutALimit", "1234", 0, "12x34", "12x34"},
+                      EditRow{"NothingUpToTheLimit", "1234", 5, "12x34", "12x34"},
+                      EditRow{"AKeyInTheMiddleOfAFullBox", "1234", 4, "12x34", "1234"},
+                      EditRow{"AKeyBeforeAFullBox", "1234", 4, "x1234", "1234"},
+                      EditRow{"AKeyBehindAFullBox", "1234", 4, "1234x", "1234"},
+                      EditRow{"TheSameKeyAgain", "1111", 4, "11111", "1111"},
+                      EditRow{"TheEndOfAPasteInTheMiddle", "1234", 6, "12abc34", "12ab34"},
+                      EditRow{"TheEndOfAPasteOverASelection", "1234", 4, "1abc4", "1ab4"},
+                      EditRow{"TheEndOfAWholeNewText", "1234", 4, "abcdef", "abcd"},
+                      EditRow{"NothingStandingBeyondTheLimitWhenSomeGoes", "123456", 3, "12456",
+                              "12456"},
+                      EditRow{"AKeyIntoATextBeyondTheLimit", "123456", 3, "123x456", "123456"},
+                      EditRow{"AKeyOverASelectionThatLeavesTooMuch", "123456", 3, "12x56", "1256"},
+                      EditRow{"NothingOnceThereIsRoomAgain", "123456", 3, "x1", "x1"},
+                      EditRow{"ALineEndThatFitsByHalf", "1234", 5, "1234\r\n", "1234"},
+                      EditRow{"NoLineEndThatFits", "123", 5, "123\r\nx", "123\r\n"},
+                      EditRow{"NoLineEndThatStoodThere", "1\r\n23", 5, "1x\r\n23", "1\r\n23"}),
+    RowName());
+
 TEST_F(TextBoxTest, TheKeyFilterSeesEachKeyAndMayDiscardIt) {
   shortBox().KeyPress = [this](int key) {
     note(std::to_string(key));

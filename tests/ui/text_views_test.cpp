@@ -171,6 +171,20 @@ TEST_F(TextViewsTest, SeveralLinesAreCutToTheLimitToo) {
   EXPECT_EQ(lines_.toPlainText(), "0123456789") << "though the text of the box is the same";
 }
 
+TEST_F(TextViewsTest, ATextBeyondALimitThatFellIsNotCutByAnEdit) {
+  window_.Text3.Text = "0123456789";
+  window_.Text3.MaxLength = 4;
+  EXPECT_EQ(lines_.toPlainText(), "0123456789");
+  lines_.moveCursor(QTextCursor::Start);
+  type(lines_, "x");
+  settle();
+  EXPECT_EQ(lines_.toPlainText(), "0123456789");
+  press(lines_, Qt::Key_Delete);
+  settle();
+  EXPECT_EQ(lines_.toPlainText(), "123456789");
+  EXPECT_EQ(window_.Text3.Text.peek(), "123456789");
+}
+
 TEST_F(TextViewsTest, ShowingATextIsNoTyping) {
   int changes = 0;
   window_.Text3.Text = "";

@@ -56,9 +56,7 @@ void TextView::take() {
 // What the panel won't have of the text (characters that it lacks, more than the limit) goes from
 // the widget first: once handlers run, there may be newer text in it.
 bool TextView::takeNow() {
-  std::string text = forPanel(shownText());
-  const auto limit = static_cast<std::size_t>(control_.MaxLength.peek());
-  if (limit > 0 && text.size() > limit) text.resize(limit);
+  const std::string text = control_.admitted(forPanel(shownText()));
   showText(text);
   return control_.userEdit(text, caret());
 }
