@@ -4,7 +4,9 @@ namespace gsm {
 
 class HandlerStack::Frame {
  public:
-  explicit Frame(HandlerStack& stack) : stack_(stack) { ++stack_.depth_; }
+  explicit Frame(HandlerStack& stack) : stack_(stack) {
+    if (++stack_.depth_ == kDeep) stack_.deepSince_ = stack_.clock_.now();
+  }
   ~Frame() {
     const bool wasFull = stack_.isFull();
     --stack_.depth_;
@@ -16,6 +18,10 @@ class HandlerStack::Frame {
  private:
   HandlerStack& stack_;
 };
+
+bool HandlerStack::isFull() const {
+  return depth_ >= kDeepest || (depth_ >= kDeep && clock_.now() - deepSince_ >= kLong);
+}
 
 void HandlerStack::run(const std::function<void()>& handler) {
   const Frame frame(*this);

@@ -19,7 +19,7 @@ Desktop::Desktop(const Options& options)
         serialDevice_.close();
         files_.closeAll();
       }),
-      handlers_(boxes_, program_),
+      handlers_(clock_, boxes_, program_),
       platform_{.clock = clock_,
                 .loop = loop_,
                 .handlers = handlers_,

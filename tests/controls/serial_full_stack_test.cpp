@@ -27,6 +27,30 @@ TEST_F(SerialFullStackTest, AFullStackHoldsTheReceiveEventBackAndDeliversItWhole
   EXPECT_EQ(depth(), 0);
 }
 
+// A device that says a line each second. The handlers underneath would else wait for as long as it
+// takes to pile up two hundred.
+TEST_F(SerialFullStackTest, ADeviceThatSaysALineEachSecondHoldsNoHandlerForLong) {
+  open();
+  std::string received;
+  port.OnComm = [&] {
+    if (port.CommEvent == CommEvent::receive) received += port.Input();
+    wait(2);
+  };
+  std::string sent;
+  for (int line = 1; line <= 600; ++line) {
+    arrive(std::to_string(line) + ";", line);
+    sent += std::to_string(line) + ";";
+  }
+  inProgram([this] {
+    wait(1);
+    note("went on");
+    EXPECT_LE(at(), 30);
+  });
+  settle(3600);
+  EXPECT_EQ(takeNotes(), Notes({"went on"}));
+  EXPECT_EQ(received, sent) << "nothing is lost";
+}
+
 TEST_F(SerialFullStackTest, AFloodLosesNoByteAndKeepsTheStackBounded) {
   open();
   std::string received;

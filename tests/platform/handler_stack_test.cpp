@@ -120,6 +120,59 @@ TEST_F(HandlerStackTest, IsFullAtTwoHundred) {
   EXPECT_FALSE(handlers().isFull());
 }
 
+TEST_F(HandlerStackTest, IsFullOnceSixteenHaveBeenOnItForTenSeconds) {
+  inProgram([this] {
+    atDepth(16, [this] {
+      EXPECT_FALSE(handlers().isFull());
+      wait(9.9);
+      EXPECT_FALSE(handlers().isFull());
+      wait(0.1);
+      EXPECT_TRUE(handlers().isFull());
+      atDepth(20, [this] { EXPECT_TRUE(handlers().isFull()); });
+      EXPECT_TRUE(handlers().isFull());
+    });
+    EXPECT_FALSE(handlers().isFull());
+    EXPECT_EQ(at(), 10);
+  });
+  settle();
+  EXPECT_FALSE(handlers().isFull());
+}
+
+TEST_F(HandlerStackTest, FifteenHandlersMayWaitForAsLongAsTheyLike) {
+  inProgram([this] {
+    atDepth(15, [this] {
+      wait(3600);
+      EXPECT_FALSE(handlers().isFull());
+    });
+  });
+  settle(7200);
+}
+
+TEST_F(HandlerStackTest, TheTenSecondsBeginAnewEachTimeThatTheStackGrowsToSixteen) {
+  inProgram([this] {
+    atDepth(15, [this] {
+      for (int round = 0; round < 3; ++round) {
+        atDepth(16, [this] {
+          wait(6);
+          EXPECT_FALSE(handlers().isFull());
+        });
+      }
+    });
+  });
+  settle();
+  EXPECT_EQ(at(), 18);
+}
+
+TEST_F(HandlerStackTest, ReliefComesWhenTheStackShrinksBelowSixteenAfterTenSeconds) {
+  handlers().onRelief([this] { note("relief at " + std::to_string(depth())); });
+  inProgram([this] { atDepth(18, [this] { wait(9); }); });
+  settle();
+  EXPECT_EQ(takeNotes(), Notes());
+  inProgram([this] { atDepth(18, [this] { wait(10); }); });
+  settle();
+  EXPECT_EQ(takeNotes(), Notes({"relief at 15"}));
+}
+
 TEST_F(HandlerStackTest, AFullStackStillTakesHandlers) {
   atDepth(203, [this] { note(std::to_string(depth())); });
   EXPECT_EQ(takeNotes(), Notes({"203"}));
