@@ -73,8 +73,9 @@ RuntimeFailure refusalByQt(const fs::path& device, QSerialPort::SerialPortError 
 
 }  // namespace
 
-QtSerialDevice::QtSerialDevice(EventLoop& loop, const PortNames& names, const UucpLocks& locks)
-    : loop_(loop), names_(names), locks_(locks) {}
+QtSerialDevice::QtSerialDevice(const Clock& clock, EventLoop& loop, const PortNames& names,
+                               const UucpLocks& locks)
+    : clock_(clock), loop_(loop), names_(names), locks_(locks) {}
 
 QtSerialDevice::~QtSerialDevice() = default;
 
@@ -85,7 +86,7 @@ void QtSerialDevice::open(int number, const LineSettings& settings, Handshaking 
   if (const PortAccess found = tryAccess(*device, locks_); found.error != 0) {
     throw refusal(*device, found.error);
   }
-  const auto opening = SerialLine::open(*device, settings, handshaking, loop_, listener_);
+  const auto opening = SerialLine::open(*device, settings, handshaking, clock_, loop_, listener_);
   if (!opening.line) throw refusalByQt(*device, opening.error, locks_);
   line_ = opening.line;
 }
@@ -99,6 +100,10 @@ void QtSerialDevice::close() {
 void QtSerialDevice::configure(const LineSettings& settings, Handshaking handshaking) {
   if (!line_) throw failure::deviceError();
   line_->configure(settings, handshaking);
+}
+
+void QtSerialDevice::readOn() {
+  if (line_) line_->readOn();
 }
 
 void QtSerialDevice::write(std::string_view bytes) {

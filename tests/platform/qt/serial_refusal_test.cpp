@@ -81,7 +81,7 @@ TEST_F(SerialRefusalTest, TheOpenPortIsLockedAgainstOthersUnderAnyName) {
   open();
   EXPECT_TRUE(std::filesystem::exists(lockFile()));
   std::filesystem::create_symlink(terminal_->device(), folder_.path() / "ports/COM8");
-  QtSerialDevice other(loop_, names_, locks_);
+  QtSerialDevice other(clock_, loop_, names_, locks_);
   EXPECT_THROW(other.open(8, {}, Handshaking::none), RuntimeFailure);
   device_.close();
   EXPECT_FALSE(std::filesystem::exists(lockFile()));
