@@ -30,6 +30,10 @@ void HandlerStack::run(const std::function<void()>& handler) {
   } catch (const RuntimeFailure& failure) {
     boxes_.show(failure.description());
     program_.end();
+  } catch (const std::bad_alloc&) {
+    // Of a library that has ways of its own to memory.
+    boxes_.show(failure::outOfMemory().description());
+    program_.end();
   }
 }
 

@@ -5,6 +5,7 @@
 #include "platform/clock.h"
 #include "platform/message_boxes.h"
 #include "platform/program.h"
+#include "platform/runtime_failure.h"
 
 namespace gsm {
 
@@ -21,10 +22,12 @@ class HandlerStack {
   static constexpr Duration kLong = std::chrono::seconds(10);
 
   HandlerStack(const Clock& clock, MessageBoxes& boxes, Program& program)
-      : clock_(clock), boxes_(boxes), program_(program) {}
+      : clock_(clock), boxes_(boxes), program_(program) {
+    makeWantOfMemoryAFailure();
+  }
 
   /// Runs `handler` to its end. A run-time failure that it doesn't trap is shown in a box and ends
-  /// the program.
+  /// the program. Want of memory is such a failure.
   void run(const std::function<void()>& handler);
 
   int depth() const { return depth_; }

@@ -1,5 +1,8 @@
 #include "platform/handler_stack.h"
 
+#include <limits>
+#include <new>
+
 #include "tests/support/platform_fixture.h"
 
 namespace gsm {
@@ -109,6 +112,42 @@ TEST_F(HandlerStackTest, NoTrapCatchesTheEndOfTheProgram) {
   });
   EXPECT_TRUE(ended());
   EXPECT_EQ(takeNotes(), Notes());
+}
+
+// The system has no way to give so much, however much memory it has.
+std::string unthinkablyLong() {
+  const volatile auto size = static_cast<std::size_t>(std::numeric_limits<std::ptrdiff_t>::max());
+  return std::string(size / 2, 'x');
+}
+
+TEST_F(HandlerStackTest, WantOfMemoryIsAFailureThatAHandlerTraps) {
+#if defined(__SANITIZE_ADDRESS__)
+  GTEST_SKIP() << "the sanitizer ends the program itself";
+#endif
+  now([this] {
+    try {
+      note(unthinkablyLong());
+    } catch (const RuntimeFailure& failure) {
+      note(std::to_string(failure.number()) + " " + failure.description());
+    }
+  });
+  EXPECT_FALSE(ended());
+  EXPECT_EQ(takeNotes(), Notes({"7 Out of memory"}));
+}
+
+TEST_F(HandlerStackTest, WantOfMemoryThatNobodyTrapsIsShownAndEndsTheProgram) {
+  // By way of the run-time, and by a library's own.
+  const std::function<void()> wants[] = {[] { throw failure::outOfMemory(); },
+                                         [] { throw std::bad_alloc(); }};
+  for (const auto& want : wants) {
+    HeadlessPlatform machine(folder().path(), {2026, 3, 1, 10, 0, 0});
+    machine.time.post([&] { machine.handlers().run(want); });
+    machine.time.run(fromSeconds(0));
+    EXPECT_TRUE(machine.time.hasEnded());
+    const auto boxes = machine.boxes.takeShown();
+    ASSERT_EQ(boxes.size(), 1u);
+    EXPECT_EQ(boxes[0].text, "Out of memory");
+  }
 }
 
 TEST_F(HandlerStackTest, IsFullAtTwoHundred) {
