@@ -3,8 +3,11 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
+
+#include "platform/replaced_file.h"
 
 namespace gsm {
 
@@ -31,7 +34,8 @@ class Files {
   /// `permissionDenied`, `fileAccessError` for what is no readable file.
   void openForInput(int number, const std::string& name);
 
-  /// Opens for writing, empty; makes the file where there is none. Fails like `openForInput`.
+  /// Opens for writing, empty; makes the file where there is none. What was there before stays
+  /// until the closing, which puts the new file in its place. Fails like `openForInput`.
   void openForOutput(int number, const std::string& name);
 
   /// Whether nothing is left to read. `badFileNumber` when the number isn't open for reading.
@@ -41,22 +45,25 @@ class Files {
   std::string readLine(int number);
 
   /// Writes `text` and a line end. `badFileNumber` when the number isn't open for writing,
-  /// `diskFull` when the text can't be kept.
+  /// `diskFull`, with the file's name, when the text can't be kept: then the old file stays.
   void printLine(int number, const std::string& text);
 
+  /// Closes all files. All are closed afterwards, also when one can't be put in its place: then it
+  /// fails as `openForOutput` does.
   void closeAll();
 
-  /// Closes all files but those of the numbers `kept`.
+  /// The same for all files but those of the numbers `kept`.
   void closeAllBut(const std::set<int>& kept);
 
  private:
   struct OpenFile {
-    std::fstream stream;
-    bool forInput;
+    std::ifstream input;
+    std::unique_ptr<ReplacedFile> output;  // null: open for reading
   };
 
   OpenFile& opened(int number, bool forInput);
-  std::fstream openStream(int number, const std::string& name, std::ios::openmode mode);
+  // The full name of `name`, which is going to be opened under `number`.
+  std::filesystem::path nameFor(int number, const std::string& name) const;
 
   std::filesystem::path programFolder_;
   std::filesystem::path currentFolder_;
