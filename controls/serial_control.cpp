@@ -59,6 +59,7 @@ void SerialControl::write(std::string_view bytes) {
 
 std::string SerialControl::Input() {
   if (!open_) throw failure::invalidUnlessOpen();
+  if (!hasRoom()) platform_.serialDevice.readOn();
   return std::exchange(received_, {});
 }
 

@@ -79,6 +79,10 @@ class SerialControl : public Object, private SerialDevice::Listener {
   };
   OutputProperty Output{*this};
 
+  /// So many bytes may wait to be taken before the device is told to read no more off the line: a
+  /// minute and a half of the fastest line.
+  static constexpr std::size_t kMostWaiting = 1 << 20;
+
   /// Takes all that has come in. Fails with `invalidUnlessOpen` when the port is closed.
   std::string Input();
 
@@ -104,6 +108,7 @@ class SerialControl : public Object, private SerialDevice::Listener {
   void write(std::string_view bytes);
 
   void bytesArrived(std::string_view bytes) override;
+  bool hasRoom() const override { return received_.size() < kMostWaiting; }
   void bytesLeft(std::size_t waiting) override;
   void lineEvent(gsm::CommEvent event) override { raise(event); }
 

@@ -22,7 +22,7 @@ Position position(std::string_view key, std::string_view text) {
   return found < text.size() ? static_cast<Position>(found) + 1 : 0;
 }
 
-std::string slice(std::string_view text, Position start, int length) {
+std::string slice(std::string_view text, Position start, Position length) {
   if (start < 1 || length < 0) throw failure::invalidArgument();
   const auto offset = static_cast<std::size_t>(start) - 1;
   if (offset >= text.size()) return {};
@@ -94,6 +94,7 @@ std::int64_t wholeCount(std::string_view text) {
 int getCountOf(std::string_view text, std::string_view find) {
   int count = 0;
   for (auto found = text.find(find); found < text.size(); found = text.find(find, found + 1)) {
+    if (count == std::numeric_limits<int>::max()) throw failure::overflow();
     ++count;
   }
   return count;

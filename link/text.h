@@ -9,14 +9,15 @@ namespace gsm {
 // Text arithmetic. A text is a row of bytes of Windows-1252, one to a character; positions count
 // from 1, and 0 means "not there".
 
-using Position = int;
+/// 64 bits: a text that nothing claims may grow beyond what 32 can count.
+using Position = std::int64_t;
 
 /// Where `key` first stands in `text`, exact in case; 0 when it doesn't.
 Position position(std::string_view key, std::string_view text);
 
 /// Up to `length` characters of `text` from `start` on; empty when `start` lies behind the end.
 /// `invalidArgument` when `start` is below 1 or `length` is negative.
-std::string slice(std::string_view text, Position start, int length);
+std::string slice(std::string_view text, Position start, Position length);
 
 /// `text` from its beginning up to but not including the first `end`. `invalidArgument` when `end`
 /// isn't there, since what lies before position 0 has a negative length.
@@ -48,7 +49,8 @@ int wholeNumber(std::string_view text);
 /// `overflow` above fifteen digits.
 std::int64_t wholeCount(std::string_view text);
 
-/// Counts the occurrences of `find` in `text`, overlapping ones included.
+/// Counts the occurrences of `find` in `text`, overlapping ones included. `overflow` when there are
+/// more than 32 bits with sign can count.
 int getCountOf(std::string_view text, std::string_view find);
 
 /// Removes the first `find` from `text` and returns what `text` then is. When `find` isn't there,

@@ -1,6 +1,7 @@
 #include "link/transcript.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "platform/scoped_value.h"
 
@@ -10,6 +11,14 @@ void Transcript::append(std::string_view text) {
   reference();
   const ScopedValue guard(appending_, true);
   Text.change([text](std::string& whole) { whole += text; });
+}
+
+void Transcript::clear() {
+  constexpr std::size_t kEveryday = 64 * 1024;  // more than any dialogue of the panel's comes to
+  Text = "";
+  if (Text.peek().capacity() > kEveryday) {
+    Text.change([](std::string& whole) { whole.shrink_to_fit(); });
+  }
 }
 
 void Transcript::stored(PropertyId property) {
@@ -33,7 +42,12 @@ Position Transcript::position(std::string_view key) const {
   return search.found;
 }
 
-std::string Transcript::slice(Position start, int length) const {
+int Transcript::length() const {
+  constexpr std::size_t kMost = std::numeric_limits<int>::max();
+  return static_cast<int>(std::min(Text.get().size(), kMost));
+}
+
+std::string Transcript::slice(Position start, Position length) const {
   return gsm::slice(Text.get(), start, length);
 }
 

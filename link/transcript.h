@@ -21,17 +21,18 @@ class Transcript : public TextBox {
   using TextBox::TextBox;
 
   void append(std::string_view text);
-  void clear() { Text = ""; }
+  /// Empties the text, and gives back the memory of one that had grown large.
+  void clear();
 
   /// Where `key` first stands, as `gsm::position` says it.
   Position position(std::string_view key) const;
   bool holds(std::string_view key) const { return position(key) != 0; }
 
   /// As `gsm::slice` of the text.
-  std::string slice(Position start, int length) const;
+  std::string slice(Position start, Position length) const;
 
-  /// The length of the text, in characters.
-  int length() const { return static_cast<int>(Text.get().size()); }
+  /// The length of the text, in characters, as far as a caret can tell it.
+  int length() const;
 
  protected:
   void stored(PropertyId property) override;

@@ -1,26 +1,15 @@
 #include "platform/files.h"
 
 #include <cerrno>
+#include <iterator>
+#include <optional>
 #include <utility>
 
 #include "platform/runtime_failure.h"
 
 namespace gsm {
-namespace {
 
 namespace fs = std::filesystem;
-
-// Why a file that can't be opened can't be.
-RuntimeFailure openingFailure(const fs::path& path, int error) {
-  std::error_code ignored;
-  if (fs::is_directory(path, ignored)) return failure::fileAccessError();
-  if (error == ENOENT || error == ENOTDIR) return failure::fileNotFound();
-  if (error == EACCES || error == EPERM || error == EROFS) return failure::permissionDenied();
-  if (error == ENOSPC) return failure::diskFull();
-  return failure::fileAccessError();
-}
-
-}  // namespace
 
 Files::Files(fs::path programFolder) : programFolder_(std::move(programFolder)) {}
 
@@ -32,40 +21,42 @@ int Files::freeFile() const {
   return number;
 }
 
-std::fstream Files::openStream(int number, const std::string& name, std::ios::openmode mode) {
+fs::path Files::nameFor(int number, const std::string& name) const {
   if (files_.contains(number)) throw failure::fileAlreadyOpen();
-  const fs::path file = path(name);
+  fs::path file = path(name);
   std::error_code ignored;
   // Opening a folder for reading succeeds, and its first read fails; refuse it here.
   if (fs::is_directory(file, ignored)) throw failure::fileAccessError();
-  errno = 0;
-  std::fstream stream(file, mode | std::ios::binary);
-  if (!stream.is_open()) throw openingFailure(file, errno);
-  return stream;
+  return file;
 }
 
 void Files::openForInput(int number, const std::string& name) {
-  files_.emplace(number, OpenFile{openStream(number, name, std::ios::in), true});
+  const fs::path file = nameFor(number, name);
+  errno = 0;
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream.is_open()) throw openingFailure(file, errno);
+  files_.emplace(number, OpenFile{.input = std::move(stream)});
 }
 
 void Files::openForOutput(int number, const std::string& name) {
-  files_.emplace(number,
-                 OpenFile{openStream(number, name, std::ios::out | std::ios::trunc), false});
+  auto output = std::make_unique<ReplacedFile>(nameFor(number, name), number);
+  files_.emplace(number, OpenFile{.output = std::move(output)});
 }
 
 Files::OpenFile& Files::opened(int number, bool forInput) {
   const auto file = files_.find(number);
-  if (file == files_.end() || file->second.forInput != forInput) throw failure::badFileNumber();
+  if (file == files_.end() || (file->second.output == nullptr) != forInput)
+    throw failure::badFileNumber();
   return file->second;
 }
 
 bool Files::atEnd(int number) {
-  return opened(number, true).stream.peek() == std::fstream::traits_type::eof();
+  return opened(number, true).input.peek() == std::ifstream::traits_type::eof();
 }
 
 std::string Files::readLine(int number) {
-  std::fstream& stream = opened(number, true).stream;
-  if (stream.peek() == std::fstream::traits_type::eof()) throw failure::inputPastEnd();
+  std::ifstream& stream = opened(number, true).input;
+  if (stream.peek() == std::ifstream::traits_type::eof()) throw failure::inputPastEnd();
   std::string line;
   for (char character; stream.get(character);) {
     if (character == '\n') break;
@@ -79,13 +70,25 @@ std::string Files::readLine(int number) {
 }
 
 void Files::printLine(int number, const std::string& text) {
-  std::fstream& stream = opened(number, false).stream;
-  stream << text << "\r\n" << std::flush;
-  if (!stream) throw failure::diskFull();
+  opened(number, false).output->write(text + "\r\n");
 }
 
-void Files::close(int number) { files_.erase(number); }
+void Files::close(int number) {
+  const auto file = files_.extract(number);
+  if (!file.empty() && file.mapped().output) file.mapped().output->keep();
+}
 
-void Files::closeAll() { files_.clear(); }
+void Files::closeAll() {
+  // All are closed, whatever becomes of one.
+  std::optional<RuntimeFailure> first;
+  while (!files_.empty()) {
+    try {
+      close(files_.begin()->first);
+    } catch (const RuntimeFailure& failure) {
+      if (!first) first = failure;
+    }
+  }
+  if (first) throw *first;
+}
 
 }  // namespace gsm

@@ -3,7 +3,10 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <memory>
 #include <string>
+
+#include "platform/replaced_file.h"
 
 namespace gsm {
 
@@ -27,7 +30,8 @@ class Files {
   /// `permissionDenied`, `fileAccessError` for what is no readable file.
   void openForInput(int number, const std::string& name);
 
-  /// Opens for writing, empty; makes the file where there is none. Fails like `openForInput`.
+  /// Opens for writing, empty; makes the file where there is none. What was there before stays
+  /// until the closing, which puts the new file in its place. Fails like `openForInput`.
   void openForOutput(int number, const std::string& name);
 
   /// Whether nothing is left to read. `badFileNumber` when the number isn't open for reading.
@@ -37,22 +41,25 @@ class Files {
   std::string readLine(int number);
 
   /// Writes `text` and a line end. `badFileNumber` when the number isn't open for writing,
-  /// `diskFull` when the text can't be kept.
+  /// `diskFull`, with the file's name, when the text can't be kept: then the old file stays.
   void printLine(int number, const std::string& text);
 
-  /// Closes the file of that number; nothing when there is none.
+  /// Closes the file of that number; nothing when there is none. One that was written takes the old
+  /// one's place, and fails as `openForOutput` does when it can't.
   void close(int number);
 
+  /// Closes all files. All are closed afterwards, also when one can't be put in its place.
   void closeAll();
 
  private:
   struct OpenFile {
-    std::fstream stream;
-    bool forInput;
+    std::ifstream input;
+    std::unique_ptr<ReplacedFile> output;  // null: open for reading
   };
 
   OpenFile& opened(int number, bool forInput);
-  std::fstream openStream(int number, const std::string& name, std::ios::openmode mode);
+  // The full name of `name`, which is going to be opened under `number`.
+  std::filesystem::path nameFor(int number, const std::string& name) const;
 
   std::filesystem::path programFolder_;
   std::map<int, OpenFile> files_;

@@ -4,7 +4,9 @@ namespace gsm {
 
 class HandlerStack::Frame {
  public:
-  explicit Frame(HandlerStack& stack) : stack_(stack) { ++stack_.depth_; }
+  explicit Frame(HandlerStack& stack) : stack_(stack) {
+    if (++stack_.depth_ == kDeep) stack_.deepSince_ = stack_.clock_.now();
+  }
   ~Frame() {
     const bool wasFull = stack_.isFull();
     --stack_.depth_;
@@ -17,12 +19,20 @@ class HandlerStack::Frame {
   HandlerStack& stack_;
 };
 
+bool HandlerStack::isFull() const {
+  return depth_ >= kDeepest || (depth_ >= kDeep && clock_.now() - deepSince_ >= kLong);
+}
+
 void HandlerStack::run(const std::function<void()>& handler) {
   const Frame frame(*this);
   try {
     handler();
   } catch (const RuntimeFailure& failure) {
     boxes_.show(failure.description());
+    program_.end();
+  } catch (const std::bad_alloc&) {
+    // Of a library that has ways of its own to memory.
+    boxes_.show(failure::outOfMemory().description());
     program_.end();
   }
 }

@@ -24,6 +24,10 @@ class PortProbe {
   /// The machine's own name of port `number`, such as "/dev/ttyUSB0", for the user to read; empty
   /// when it has none.
   virtual std::string deviceName(int number) = 0;
+
+  /// Why port `number` can't be used and what would help, for the user to read; empty when nothing
+  /// is in the way.
+  virtual std::string trouble(int number) = 0;
 };
 
 }  // namespace gsm

@@ -1,9 +1,30 @@
 #include "platform/runtime_failure.h"
 
+namespace gsm {
+namespace {
+
+// Made beforehand: when it is wanted there is no memory for its text.
+const OutOfMemory& madeBeforehand() {
+  static const OutOfMemory made;
+  return made;
+}
+
+}  // namespace
+
+OutOfMemory::OutOfMemory() : RuntimeFailure(7, "Out of memory") {}
+
+void makeWantOfMemoryAFailure() {
+  madeBeforehand();
+  std::set_new_handler([] { throw madeBeforehand(); });
+}
+
+}  // namespace gsm
+
 namespace gsm::failure {
 
 RuntimeFailure invalidArgument() { return {5, "Invalid procedure call or argument"}; }
 RuntimeFailure overflow() { return {6, "Overflow"}; }
+OutOfMemory outOfMemory() { return madeBeforehand(); }
 RuntimeFailure typeMismatch() { return {13, "Type mismatch"}; }
 RuntimeFailure badFileNumber() { return {52, "Bad file name or number"}; }
 RuntimeFailure fileNotFound() { return {53, "File not found"}; }

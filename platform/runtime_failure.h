@@ -1,5 +1,6 @@
 #pragma once
 
+#include <new>
 #include <stdexcept>
 #include <string>
 
@@ -21,11 +22,23 @@ class RuntimeFailure : public std::runtime_error {
   int number_;
 };
 
+/// Want of memory, in the way in which it reaches a handler's trap.
+class OutOfMemory : public RuntimeFailure, public std::bad_alloc {
+ public:
+  OutOfMemory();
+  const char* what() const noexcept override { return RuntimeFailure::what(); }
+};
+
+/// From now on `new` fails with `OutOfMemory` where there is no memory, for the whole program, so
+/// that the handler that wants too much fails like any other. Asking for it again does nothing.
+void makeWantOfMemoryAFailure();
+
 /// The failures that the run-time knows, ready to be thrown.
 namespace failure {
 
 RuntimeFailure invalidArgument();       // 5
 RuntimeFailure overflow();              // 6
+OutOfMemory outOfMemory();              // 7
 RuntimeFailure typeMismatch();          // 13
 RuntimeFailure badFileNumber();         // 52
 RuntimeFailure fileNotFound();          // 53

@@ -40,6 +40,9 @@ class SerialDevice {
 
     /// Bytes have come in, in the order of the line.
     virtual void bytesArrived(std::string_view bytes) = 0;
+    /// Whether more bytes may come now. While they may not, the device reads nothing off the line;
+    /// the listener says `readOn` when they may again.
+    virtual bool hasRoom() const { return true; }
     /// `waiting` bytes of what was written are still to leave, fewer than before.
     virtual void bytesLeft(std::size_t waiting) = 0;
     /// A modem line changed, or the line had an error. Neither `send` nor `receive`.
@@ -61,6 +64,9 @@ class SerialDevice {
 
   /// Changes the open line. Throws `invalidPropertyValue` when the line refuses the values.
   virtual void configure(const LineSettings& settings, Handshaking handshaking) = 0;
+
+  /// The listener has room again. On a line that holds nothing back there is nothing to do.
+  virtual void readOn() {}
 
   /// Begins to send `bytes` on the open line. Throws `deviceError` when the device is gone.
   virtual void write(std::string_view bytes) = 0;

@@ -100,7 +100,8 @@ void frmSettings::listPorts() {
     if (access == PortProbe::Access::free) {
       cboPort.AddItem(" " + std::to_string(port), tip);
     } else if (access == PortProbe::Access::held) {
-      cboPort.AddItem(" " + std::to_string(port) + " - Not Available", tip);
+      cboPort.AddItem(" " + std::to_string(port) + " - Not Available",
+                      tip + ": " + platform().ports.trouble(port));
     }
   }
 }

@@ -8,7 +8,11 @@ namespace gsm {
 
 void HeadlessProgram::end() {
   line_.close();
-  files_.closeAll();
+  try {
+    files_.closeAll();
+  } catch (const RuntimeFailure&) {
+    // The end is no handler's to trap.
+  }
   throw ProgramEnd{};
 }
 

@@ -59,7 +59,7 @@ class HeadlessPlatform {
 
  private:
   HeadlessProgram program_{files, line};
-  HandlerStack handlers_{boxes, program_};
+  HandlerStack handlers_{time, boxes, program_};
   Platform platform_;
 };
 

@@ -17,4 +17,14 @@ PortProbe::Access HeadlessPorts::access(int number) {
   return port->fails.empty() ? Access::free : Access::absent;
 }
 
+std::string HeadlessPorts::deviceName(int number) {
+  const Port* port = find(number);
+  return port == nullptr ? std::string() : port->device;
+}
+
+std::string HeadlessPorts::trouble(int number) {
+  const Port* port = find(number);
+  return port == nullptr ? std::string() : port->trouble;
+}
+
 }  // namespace gsm

@@ -12,8 +12,10 @@ class HeadlessPorts : public PortProbe {
  public:
   struct Port {
     int number;
-    bool held = false;  // by another program
-    std::string fails;  // what its opening fails with, when not empty
+    bool held = false;    // by another program
+    std::string fails;    // what its opening fails with, when not empty
+    std::string device;   // the machine's name of it
+    std::string trouble;  // why it can't be used
   };
 
   void set(std::vector<Port> ports) { ports_ = std::move(ports); }
@@ -23,7 +25,8 @@ class HeadlessPorts : public PortProbe {
 
   bool exists(int number) override { return find(number) != nullptr; }
   Access access(int number) override;
-  std::string deviceName(int) override { return {}; }
+  std::string deviceName(int number) override;
+  std::string trouble(int number) override;
 
  private:
   std::vector<Port> ports_;

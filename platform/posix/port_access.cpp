@@ -25,7 +25,7 @@ PortAccess refused(int error) {
 }  // namespace
 
 PortAccess tryAccess(const std::filesystem::path& device, const UucpLocks& locks) {
-  if (const auto lock = locks.find(device); lock && lock->isHeld()) return refused(EBUSY);
+  if (const auto lock = locks.find(device); lock && lock->isHeld) return refused(EBUSY);
   const int descriptor = ::open(device.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
   if (descriptor < 0) return refused(errno);
   PortAccess result{Access::free, 0};

@@ -2,6 +2,7 @@
 
 #include "platform/code_page.h"
 #include "platform/posix/port_access.h"
+#include "platform/posix/port_trouble.h"
 
 namespace gsm {
 
@@ -16,6 +17,13 @@ PortProbe::Access PosixPortProbe::access(int number) {
 std::string PosixPortProbe::deviceName(int number) {
   const auto device = names_.device(number);
   return device ? fromUtf8(device->string()) : std::string();
+}
+
+std::string PosixPortProbe::trouble(int number) {
+  const auto device = names_.device(number);
+  if (device) return fromUtf8(troubleOf(*device, tryAccess(*device, locks_), locks_));
+  const auto path = names_.path(number);
+  return path ? fromUtf8("there is no device " + path->string()) : "no device has this number";
 }
 
 }  // namespace gsm

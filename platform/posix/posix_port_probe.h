@@ -17,6 +17,7 @@ class PosixPortProbe : public PortProbe {
   bool exists(int number) override;
   Access access(int number) override;
   std::string deviceName(int number) override;
+  std::string trouble(int number) override;
 
  private:
   const PortNames& names_;

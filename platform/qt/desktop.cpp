@@ -11,7 +11,9 @@ Desktop::Desktop(const Options& options)
       files_(options.programFolder),
       portNames_(options.programFolder),
       ports_(portNames_, locks_),
-      serialDevice_(loop_, portNames_, locks_),
+      serialPort_(clock_, loop_, portNames_, locks_),
+      serialDevice_(serialPort_, ports_,
+                    [](const std::string& text) { std::cerr << text << std::endl; }),
       settings_(options.programFolder / "settings.ini"),
       database_(sqlite_, [](const std::string& text) { std::cerr << text << std::endl; }),
       program_([this, atEnd = options.atEnd] {
@@ -19,7 +21,7 @@ Desktop::Desktop(const Options& options)
         serialDevice_.close();
         files_.closeAll();
       }),
-      handlers_(boxes_, program_),
+      handlers_(clock_, boxes_, program_),
       platform_{.clock = clock_,
                 .loop = loop_,
                 .handlers = handlers_,

@@ -9,6 +9,7 @@
 #include "platform/platform.h"
 #include "platform/posix/port_names.h"
 #include "platform/posix/posix_port_probe.h"
+#include "platform/posix/telling_device.h"
 #include "platform/posix/uucp_lock.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_event_loop.h"
@@ -48,7 +49,8 @@ class Desktop {
   PortNames portNames_;
   UucpLocks locks_;
   PosixPortProbe ports_;
-  QtSerialDevice serialDevice_;
+  QtSerialDevice serialPort_;
+  TellingDevice serialDevice_;
   QtSettingsStore settings_;
   SqliteEngine sqlite_;
   TellingEngine database_;

@@ -1,14 +1,12 @@
 #include "platform/qt/qt_serial_device.h"
 
-#include <grp.h>
-#include <sys/stat.h>
-
 #include <QSerialPort>
 #include <cerrno>
 #include <string>
 #include <system_error>
 
 #include "platform/posix/port_access.h"
+#include "platform/posix/port_trouble.h"
 #include "platform/qt/serial_line.h"
 #include "platform/qt/text_codec.h"
 #include "platform/runtime_failure.h"
@@ -23,19 +21,10 @@ RuntimeFailure permissionDenied(const std::string& reason) {
   return {plain.number(), plain.description() + ": " + reason};
 }
 
-// The group whose members may read and write the device; empty when being in it doesn't help.
-std::string helpfulGroup(const fs::path& device) {
-  struct stat status {};
-  constexpr mode_t kBoth = S_IRGRP | S_IWGRP;
-  if (::stat(device.c_str(), &status) != 0 || (status.st_mode & kBoth) != kBoth) return {};
-  const group* entry = ::getgrgid(status.st_gid);
-  return entry != nullptr ? entry->gr_name : std::to_string(status.st_gid);
-}
-
 RuntimeFailure noPermission(const fs::path& device) {
-  const std::string group = helpfulGroup(device);
-  if (group.empty()) return permissionDenied("this user may not use " + fromFileName(device));
-  return permissionDenied("only members of the group " + group + " may use " +
+  const auto group = helpfulGroup(device);
+  if (!group) return permissionDenied("this user may not use " + fromFileName(device));
+  return permissionDenied("only members of the group " + *group + " may use " +
                           fromFileName(device));
 }
 
@@ -64,7 +53,7 @@ RuntimeFailure refusalByQt(const fs::path& device, QSerialPort::SerialPortError 
   if (error == QSerialPort::UnsupportedOperationError) return failure::invalidPropertyValue();
   if (error != QSerialPort::PermissionError) return failure::deviceError();
   const auto lock = locks.find(device);
-  if (lock && !lock->isHeld()) {
+  if (lock && !lock->isHeld) {
     return permissionDenied("the lock file " + fromFileName(lock->file) +
                             " is left over from another program and can't be removed");
   }
@@ -73,8 +62,9 @@ RuntimeFailure refusalByQt(const fs::path& device, QSerialPort::SerialPortError 
 
 }  // namespace
 
-QtSerialDevice::QtSerialDevice(EventLoop& loop, const PortNames& names, const UucpLocks& locks)
-    : loop_(loop), names_(names), locks_(locks) {}
+QtSerialDevice::QtSerialDevice(const Clock& clock, EventLoop& loop, const PortNames& names,
+                               const UucpLocks& locks)
+    : clock_(clock), loop_(loop), names_(names), locks_(locks) {}
 
 QtSerialDevice::~QtSerialDevice() = default;
 
@@ -85,7 +75,9 @@ void QtSerialDevice::open(int number, const LineSettings& settings, Handshaking 
   if (const PortAccess found = tryAccess(*device, locks_); found.error != 0) {
     throw refusal(*device, found.error);
   }
-  const auto opening = SerialLine::open(*device, settings, handshaking, loop_, listener_);
+  // Qt believes the file of any process that lives.
+  locks_.removeLeftOver(*device);
+  const auto opening = SerialLine::open(*device, settings, handshaking, clock_, loop_, listener_);
   if (!opening.line) throw refusalByQt(*device, opening.error, locks_);
   line_ = opening.line;
 }
@@ -99,6 +91,10 @@ void QtSerialDevice::close() {
 void QtSerialDevice::configure(const LineSettings& settings, Handshaking handshaking) {
   if (!line_) throw failure::deviceError();
   line_->configure(settings, handshaking);
+}
+
+void QtSerialDevice::readOn() {
+  if (line_) line_->readOn();
 }
 
 void QtSerialDevice::write(std::string_view bytes) {

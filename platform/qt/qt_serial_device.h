@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "platform/clock.h"
 #include "platform/event_loop.h"
 #include "platform/posix/port_names.h"
 #include "platform/posix/uucp_lock.h"
@@ -15,7 +16,8 @@ class SerialLine;
 class QtSerialDevice : public SerialDevice {
  public:
   /// All of them must outlive the device.
-  QtSerialDevice(EventLoop& loop, const PortNames& names, const UucpLocks& locks);
+  QtSerialDevice(const Clock& clock, EventLoop& loop, const PortNames& names,
+                 const UucpLocks& locks);
   ~QtSerialDevice() override;
   QtSerialDevice(const QtSerialDevice&) = delete;
   QtSerialDevice& operator=(const QtSerialDevice&) = delete;
@@ -24,9 +26,11 @@ class QtSerialDevice : public SerialDevice {
   void open(int number, const LineSettings& settings, Handshaking handshaking) override;
   void close() override;
   void configure(const LineSettings& settings, Handshaking handshaking) override;
+  void readOn() override;
   void write(std::string_view bytes) override;
 
  private:
+  const Clock& clock_;
   EventLoop& loop_;
   const PortNames& names_;
   const UucpLocks& locks_;

@@ -61,9 +61,10 @@ void addSoftwareControl(int descriptor) {
 
 SerialLine::Opening SerialLine::open(const std::filesystem::path& device,
                                      const LineSettings& settings, Handshaking handshaking,
-                                     EventLoop& loop, Listener* const& listener) {
+                                     const Clock& clock, EventLoop& loop,
+                                     Listener* const& listener) {
   if (!isPossible(settings)) throw failure::invalidPropertyValue();
-  const std::shared_ptr<SerialLine> line(new SerialLine(loop, listener));
+  const std::shared_ptr<SerialLine> line(new SerialLine(clock, loop, listener));
   if (!line->begin(device, settings, handshaking)) return {nullptr, line->port_.error()};
   line->connectSignals();
   line->watch();
@@ -77,8 +78,11 @@ bool SerialLine::begin(const std::filesystem::path& device, const LineSettings& 
   port_.setPortName(QFile::decodeName(device.c_str()));
   // Before the opening: an open pseudo-terminal refuses to have its framing changed.
   apply(settings, handshaking);
+  // Else Qt would go on reading for a listener that has no room.
+  port_.setReadBufferSize(ChunkGatherer::kFull);
   if (!port_.open(QIODevice::ReadWrite)) return false;
   settings_ = settings;
+  chunk_.setLine(settings);
   handshaking_ = handshaking;
   lineState_ = readLineState(port_.handle());
   if (!lineState_) {
@@ -125,17 +129,52 @@ bool SerialLine::isAlive() const {
 
 void SerialLine::letGoIfDead() {
   if (!port_.isOpen() || isAlive()) return;
-  const QByteArray rest = port_.readAll();
+  gather();
   port_.close();
-  if (!rest.isEmpty() && listener_ != nullptr) {
-    listener_->bytesArrived({rest.data(), static_cast<std::size_t>(rest.size())});
-  }
+  chunkEnds_.reset();
+  tell(chunk_.take());
+}
+
+bool SerialLine::mayRead() const {
+  return port_.isOpen() && (listener_ == nullptr || listener_->hasRoom());
+}
+
+void SerialLine::gather() {
+  const QByteArray bytes = port_.readAll();
+  if (bytes.isEmpty()) return;
+  chunk_.add({bytes.data(), static_cast<std::size_t>(bytes.size())}, clock_.now());
 }
 
 void SerialLine::drain() {
-  const QByteArray bytes = port_.isOpen() ? port_.readAll() : QByteArray();
-  if (bytes.isEmpty() || listener_ == nullptr) return;
-  listener_->bytesArrived({bytes.data(), static_cast<std::size_t>(bytes.size())});
+  if (!mayRead()) return;
+  gather();
+  tellOfChunk();
+}
+
+void SerialLine::tellOfChunk() {
+  const auto end = chunk_.end();
+  if (!end) return;
+  if (const Duration rest = *end - clock_.now(); rest > Duration::zero()) {
+    if (chunkEnds_) return;
+    chunkEnds_ = loop_.every(rest, guarded([](SerialLine& line) {
+                               line.chunkEnds_.reset();
+                               // The machine may have been busy with other things while more came
+                               // in.
+                               line.drain();
+                               line.tellOfChunk();
+                             }));
+    return;
+  }
+  chunkEnds_.reset();
+  tell(chunk_.take());
+}
+
+void SerialLine::tell(std::string_view bytes) {
+  if (!bytes.empty() && listener_ != nullptr) listener_->bytesArrived(bytes);
+}
+
+void SerialLine::readOn() {
+  loop_.post(guarded([](SerialLine& line) { line.drain(); }));
 }
 
 void SerialLine::look() {
@@ -158,6 +197,7 @@ void SerialLine::configure(const LineSettings& settings, Handshaking handshaking
     throw failure::invalidPropertyValue();
   }
   settings_ = settings;
+  chunk_.setLine(settings);
   handshaking_ = handshaking;
   finishHandshaking(handshaking);
 }
@@ -184,6 +224,7 @@ void SerialLine::write(std::string_view bytes) {
 
 void SerialLine::close() {
   watching_.reset();
+  chunkEnds_.reset();
   if (!port_.isOpen()) return;
   // Else a line that the other end holds up would hold the closing up too.
   ::tcflush(port_.handle(), TCOFLUSH);

@@ -27,6 +27,30 @@ TEST_F(SerialFullStackTest, AFullStackHoldsTheReceiveEventBackAndDeliversItWhole
   EXPECT_EQ(depth(), 0);
 }
 
+// A device that says a line each second. The handlers underneath would else wait for as long as it
+// takes to pile up two hundred.
+TEST_F(SerialFullStackTest, ADeviceThatSaysALineEachSecondHoldsNoHandlerForLong) {
+  open();
+  std::string received;
+  port.OnComm = [&] {
+    if (port.CommEvent == CommEvent::receive) received += port.Input();
+    wait(2);
+  };
+  std::string sent;
+  for (int line = 1; line <= 600; ++line) {
+    arrive(std::to_string(line) + ";", line);
+    sent += std::to_string(line) + ";";
+  }
+  inProgram([this] {
+    wait(1);
+    note("went on");
+    EXPECT_LE(at(), 30);
+  });
+  settle(3600);
+  EXPECT_EQ(takeNotes(), Notes({"went on"}));
+  EXPECT_EQ(received, sent) << "nothing is lost";
+}
+
 TEST_F(SerialFullStackTest, AFloodLosesNoByteAndKeepsTheStackBounded) {
   open();
   std::string received;
@@ -45,6 +69,35 @@ TEST_F(SerialFullStackTest, AFloodLosesNoByteAndKeepsTheStackBounded) {
   settle();
   EXPECT_EQ(received, sent);
   EXPECT_EQ(deepest, 200);
+}
+
+// While it has no room the device reads nothing off the line, so what waits stays bounded.
+TEST_F(SerialFullStackTest, HasRoomForOneMebibyteUntilSomebodyTakesIt) {
+  struct Device : SerialDevice {
+    void listen(Listener* who) override { listener = who; }
+    void open(int, const LineSettings&, gsm::Handshaking) override {}
+    void close() override {}
+    void configure(const LineSettings&, gsm::Handshaking) override {}
+    void write(std::string_view) override {}
+    void readOn() override { ++readings; }
+    Listener* listener = nullptr;
+    int readings = 0;
+  } device;
+  Platform other{platform().clock,    platform().loop,     platform().handlers, platform().boxes,
+                 platform().program,  platform().files,    platform().ports,    device,
+                 platform().settings, platform().database, platform().windows};
+  SerialControl control(other, "MSComm1");
+  control.PortOpen = true;
+  control.RThreshold = 0;
+  device.listener->bytesArrived(std::string(SerialControl::kMostWaiting - 1, 'x'));
+  EXPECT_TRUE(device.listener->hasRoom());
+  EXPECT_EQ(control.Input().size(), SerialControl::kMostWaiting - 1);
+  EXPECT_EQ(device.readings, 0);
+  device.listener->bytesArrived(std::string(SerialControl::kMostWaiting, 'x'));
+  EXPECT_FALSE(device.listener->hasRoom());
+  EXPECT_EQ(control.Input().size(), SerialControl::kMostWaiting);
+  EXPECT_TRUE(device.listener->hasRoom());
+  EXPECT_EQ(device.readings, 1);
 }
 
 TEST_F(SerialFullStackTest, BytesHeldBackAreLostWhenThePortCloses) {

@@ -16,6 +16,14 @@ int failureOf(const std::function<void()>& action) {
   return 0;
 }
 
+TEST(Text, PositionsAndLengthsMayLieBehindWhat32BitsCount) {
+  constexpr Position kFar = (Position{1} << 32) + 1;
+  EXPECT_EQ(slice("text", kFar, 1), "");
+  EXPECT_EQ(slice("text", 2, kFar), "ext");
+  EXPECT_EQ(failureOf([] { (void)slice("text", -kFar, 1); }), 5);
+  EXPECT_EQ(failureOf([] { (void)slice("text", 1, -kFar); }), 5);
+}
+
 TEST(Text, PositionsCountFromOneAndAreExactInCase) {
   EXPECT_EQ(position("OK", "AT\r\r\nOK\r\n"), 6);
   EXPECT_EQ(position("ok", "AT\r\r\nOK\r\n"), 0);

@@ -95,6 +95,15 @@ TEST_F(TranscriptTest, SearchesAnAssignedTextAnew) {
   EXPECT_EQ(text_.position("before"), 16);
 }
 
+TEST_F(TranscriptTest, GivesTheRoomOfALongTextBackOnceCleared) {
+  for (int piece = 0; piece < 1000; ++piece) text_.append(std::string(4096, 'x'));
+  EXPECT_EQ(text_.position("xxOK"), 0);
+  text_.clear();
+  EXPECT_LT(text_.Text.peek().capacity(), 64u * 1024);
+  text_.append("OK");
+  EXPECT_EQ(text_.position("OK"), 1);
+}
+
 TEST_F(TranscriptTest, HoldsEveryByte) {
   std::string bytes;
   for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);

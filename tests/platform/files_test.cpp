@@ -134,19 +134,34 @@ TEST_F(FilesTest, LinesAreWrittenWithCarriageReturnAndLineFeed) {
   EXPECT_EQ(folder().read("out.txt"), "9600,N,8,1 3\r\n\r\n");
 }
 
-TEST_F(FilesTest, OpeningForWritingEmptiesTheFile) {
+TEST_F(FilesTest, TheNewFileTakesTheOldOnesPlaceAtTheClosing) {
   folder().write("out.txt", "a much longer text than before\r\n");
   files().openForOutput(1, "out.txt");
-  EXPECT_EQ(folder().read("out.txt"), "");
   files().printLine(1, "x");
+  EXPECT_EQ(folder().read("out.txt"), "a much longer text than before\r\n");
   files().closeAll();
   EXPECT_EQ(folder().read("out.txt"), "x\r\n");
+  files().openForOutput(1, "out.txt");
+  files().closeAll();
+  EXPECT_EQ(folder().read("out.txt"), "") << "nothing was written";
+}
+
+TEST_F(FilesTest, TwoNumbersMayWriteOneFileAndTheLastClosedStays) {
+  files().openForOutput(1, "out.txt");
+  files().openForOutput(2, "out.txt");
+  files().printLine(2, "second");
+  files().printLine(1, "first");
+  files().closeAll();
+  EXPECT_EQ(folder().read("out.txt"), "second\r\n");
 }
 
 TEST_F(FilesTest, AFullDiskFailsTheLineThatDoesNotFit) {
   if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "needs a device that is always full";
   files().openForOutput(1, "/dev/full");
   EXPECT_EQ(failureOf([this] { files().printLine(1, "x"); }), 61);
+  EXPECT_EQ(files().freeFile(), 2) << "its number stays in use";
+  files().closeAll();
+  EXPECT_EQ(files().freeFile(), 1);
 }
 
 TEST_F(FilesTest, ClosingOneKeepsTheOthersOpen) {

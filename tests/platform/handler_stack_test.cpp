@@ -1,5 +1,8 @@
 #include "platform/handler_stack.h"
 
+#include <limits>
+#include <new>
+
 #include "tests/support/platform_fixture.h"
 
 namespace gsm {
@@ -111,6 +114,42 @@ TEST_F(HandlerStackTest, NoTrapCatchesTheEndOfTheProgram) {
   EXPECT_EQ(takeNotes(), Notes());
 }
 
+// The system has no way to give so much, however much memory it has.
+std::string unthinkablyLong() {
+  const volatile auto size = static_cast<std::size_t>(std::numeric_limits<std::ptrdiff_t>::max());
+  return std::string(size / 2, 'x');
+}
+
+TEST_F(HandlerStackTest, WantOfMemoryIsAFailureThatAHandlerTraps) {
+#if defined(__SANITIZE_ADDRESS__)
+  GTEST_SKIP() << "the sanitizer ends the program itself";
+#endif
+  now([this] {
+    try {
+      note(unthinkablyLong());
+    } catch (const RuntimeFailure& failure) {
+      note(std::to_string(failure.number()) + " " + failure.description());
+    }
+  });
+  EXPECT_FALSE(ended());
+  EXPECT_EQ(takeNotes(), Notes({"7 Out of memory"}));
+}
+
+TEST_F(HandlerStackTest, WantOfMemoryThatNobodyTrapsIsShownAndEndsTheProgram) {
+  // By way of the run-time, and by a library's own.
+  const std::function<void()> wants[] = {[] { throw failure::outOfMemory(); },
+                                         [] { throw std::bad_alloc(); }};
+  for (const auto& want : wants) {
+    HeadlessPlatform machine(folder().path(), {2026, 3, 1, 10, 0, 0});
+    machine.time.post([&] { machine.handlers().run(want); });
+    machine.time.run(fromSeconds(0));
+    EXPECT_TRUE(machine.time.hasEnded());
+    const auto boxes = machine.boxes.takeShown();
+    ASSERT_EQ(boxes.size(), 1u);
+    EXPECT_EQ(boxes[0].text, "Out of memory");
+  }
+}
+
 TEST_F(HandlerStackTest, IsFullAtTwoHundred) {
   atDepth(199, [this] { EXPECT_FALSE(handlers().isFull()); });
   atDepth(200, [this] {
@@ -118,6 +157,59 @@ TEST_F(HandlerStackTest, IsFullAtTwoHundred) {
     EXPECT_EQ(handlers().depth(), 200);
   });
   EXPECT_FALSE(handlers().isFull());
+}
+
+TEST_F(HandlerStackTest, IsFullOnceSixteenHaveBeenOnItForTenSeconds) {
+  inProgram([this] {
+    atDepth(16, [this] {
+      EXPECT_FALSE(handlers().isFull());
+      wait(9.9);
+      EXPECT_FALSE(handlers().isFull());
+      wait(0.1);
+      EXPECT_TRUE(handlers().isFull());
+      atDepth(20, [this] { EXPECT_TRUE(handlers().isFull()); });
+      EXPECT_TRUE(handlers().isFull());
+    });
+    EXPECT_FALSE(handlers().isFull());
+    EXPECT_EQ(at(), 10);
+  });
+  settle();
+  EXPECT_FALSE(handlers().isFull());
+}
+
+TEST_F(HandlerStackTest, FifteenHandlersMayWaitForAsLongAsTheyLike) {
+  inProgram([this] {
+    atDepth(15, [this] {
+      wait(3600);
+      EXPECT_FALSE(handlers().isFull());
+    });
+  });
+  settle(7200);
+}
+
+TEST_F(HandlerStackTest, TheTenSecondsBeginAnewEachTimeThatTheStackGrowsToSixteen) {
+  inProgram([this] {
+    atDepth(15, [this] {
+      for (int round = 0; round < 3; ++round) {
+        atDepth(16, [this] {
+          wait(6);
+          EXPECT_FALSE(handlers().isFull());
+        });
+      }
+    });
+  });
+  settle();
+  EXPECT_EQ(at(), 18);
+}
+
+TEST_F(HandlerStackTest, ReliefComesWhenTheStackShrinksBelowSixteenAfterTenSeconds) {
+  handlers().onRelief([this] { note("relief at " + std::to_string(depth())); });
+  inProgram([this] { atDepth(18, [this] { wait(9); }); });
+  settle();
+  EXPECT_EQ(takeNotes(), Notes());
+  inProgram([this] { atDepth(18, [this] { wait(10); }); });
+  settle();
+  EXPECT_EQ(takeNotes(), Notes({"relief at 15"}));
 }
 
 TEST_F(HandlerStackTest, AFullStackStillTakesHandlers) {

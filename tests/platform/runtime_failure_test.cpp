@@ -15,6 +15,7 @@ TEST(RuntimeFailure, CarriesTheRunTimesNumbersAndTexts) {
   } rows[] = {
       {failure::invalidArgument(), 5, "Invalid procedure call or argument"},
       {failure::overflow(), 6, "Overflow"},
+      {failure::outOfMemory(), 7, "Out of memory"},
       {failure::typeMismatch(), 13, "Type mismatch"},
       {failure::badFileNumber(), 52, "Bad file name or number"},
       {failure::fileNotFound(), 53, "File not found"},

@@ -11,6 +11,16 @@ namespace {
 // The port settings window as it comes up.
 class PortSettingsWindow : public PortSettingsTest {};
 
+TEST_F(PortSettingsWindow, TellsWhichDeviceAPortIsAndWhyItCantBeUsed) {
+  startWith(
+      {{.number = 3, .device = "/dev/ttyS2"},
+       {.number = 5, .held = true, .device = "/dev/ttyUSB0", .trouble = "held by 1234 (minicom)"}});
+  openWindow();
+  EXPECT_EQ(window().cboPort.List.peek(), (Texts{"<none>", " 3", " 5 - Not Available"}));
+  EXPECT_EQ(window().cboPort.ItemTips.peek(),
+            (Texts{"", "/dev/ttyS2", "/dev/ttyUSB0: held by 1234 (minicom)"}));
+}
+
 TEST_F(PortSettingsWindow, ListsTheTenSpeeds) {
   startWith({{.number = 3}});
   openWindow();

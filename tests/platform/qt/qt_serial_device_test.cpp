@@ -8,6 +8,7 @@
 
 #include <string>
 
+#include "platform/chunk_gatherer.h"
 #include "platform/runtime_failure.h"
 #include "simulator/host/descriptor.h"
 #include "tests/platform/qt/serial_fixture.h"
@@ -88,6 +89,60 @@ TEST_F(QtSerialDeviceTest, GoesOnReceivingWhileAListenerWaits) {
   terminal_->write("a");
   EXPECT_TRUE(runUntil(loop_, [&] { return listener.complete; }));
   device_.listen(nullptr);
+}
+
+TEST_F(QtSerialDeviceTest, AReplyThatComesInPiecesIsOneChunk) {
+  open({.baud = 110});  // 318 ms without a character end a chunk
+  int pieces = 0;
+  const auto modem = loop_.every(std::chrono::milliseconds(5), [&] {
+    if (pieces < 20) terminal_->write("piece " + std::to_string(pieces++) + "\r\n");
+  });
+  EXPECT_TRUE(runUntil(loop_, [&] { return !record_.chunks.empty(); }));
+  EXPECT_EQ(pieces, 20);
+  ASSERT_EQ(record_.chunks.size(), 1u);
+  EXPECT_TRUE(record_.received.starts_with("piece 0\r\n"));
+  EXPECT_TRUE(record_.received.ends_with("piece 19\r\n"));
+}
+
+TEST_F(QtSerialDeviceTest, ALineThatDoesntRestIsToldInChunksOfFourKibibytes) {
+  open();
+  std::size_t done = 0;
+  const std::string all(50'000, 'x');
+  EXPECT_TRUE(runUntil(loop_, [&] {
+    done += terminal_->write(std::string_view(all).substr(done));
+    return record_.received.size() >= all.size();
+  }));
+  record_.chunks.pop_back();
+  for (const std::string& chunk : record_.chunks) {
+    EXPECT_GE(chunk.size(), ChunkGatherer::kFull);
+    EXPECT_LE(chunk.size(), 2 * ChunkGatherer::kFull);
+  }
+}
+
+TEST_F(QtSerialDeviceTest, ReadsNothingWhileTheListenerHasNoRoom) {
+  open();
+  record_.room = false;
+  std::size_t done = 0;
+  const std::string all = everyByte() + std::string(1'000'000, 'x') + everyByte();
+  const auto fill = [&] {
+    const std::size_t more = terminal_->write(std::string_view(all).substr(done));
+    done += more;
+    return more;
+  };
+  fill();
+  for (const auto end = clock_.now() + std::chrono::milliseconds(200); clock_.now() < end;) {
+    loop_.pass(end);
+    fill();
+  }
+  EXPECT_EQ(record_.received, "");
+  EXPECT_LT(done, 200'000u) << "the line must fill up";
+  record_.room = true;
+  device_.readOn();
+  EXPECT_TRUE(runUntil(loop_, [&] {
+    fill();
+    return record_.received.size() >= all.size();
+  }));
+  EXPECT_EQ(record_.received, all);
 }
 
 TEST_F(QtSerialDeviceTest, ForgetsOldInput) {

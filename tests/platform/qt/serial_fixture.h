@@ -19,11 +19,17 @@ namespace gsm {
 /// Keeps what a device tells.
 class SerialRecord : public SerialDevice::Listener {
  public:
-  void bytesArrived(std::string_view bytes) override { received += bytes; }
+  void bytesArrived(std::string_view bytes) override {
+    received += bytes;
+    chunks.emplace_back(bytes);
+  }
+  bool hasRoom() const override { return room; }
   void bytesLeft(std::size_t waiting) override { left.push_back(waiting); }
   void lineEvent(CommEvent event) override { events.push_back(event); }
 
   std::string received;
+  std::vector<std::string> chunks;
+  bool room = true;
   std::vector<std::size_t> left;
   std::vector<CommEvent> events;
 };
@@ -86,7 +92,7 @@ class SerialTest : public ::testing::Test {
   PortNames names_{folder_.path()};
   UucpLocks locks_;
   SerialRecord record_;
-  QtSerialDevice device_{loop_, names_, locks_};
+  QtSerialDevice device_{clock_, loop_, names_, locks_};
 };
 
 }  // namespace gsm

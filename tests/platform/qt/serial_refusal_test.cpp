@@ -9,6 +9,7 @@
 
 #include "platform/runtime_failure.h"
 #include "simulator/host/descriptor.h"
+#include "tests/platform/posix/child_process.h"
 #include "tests/platform/qt/serial_fixture.h"
 
 namespace gsm {
@@ -64,7 +65,8 @@ TEST_F(SerialRefusalTest, ALineThatAnotherProgramHasForItselfAloneIsOpenAlready)
 }
 
 TEST_F(SerialRefusalTest, ALineWithALivingProgramsLockFileIsOpenAlready) {
-  std::ofstream(lockFile()) << "       " << ::getppid() << "\n";
+  const ChildProcess other(terminal_->device());
+  std::ofstream(lockFile()) << "       " << other.id() << "\n";
   EXPECT_EQ(failureOf(kPort), "Port already open");
   std::filesystem::last_write_time(
       lockFile(), std::filesystem::file_time_type::clock::now() - std::chrono::minutes(10));
@@ -72,16 +74,20 @@ TEST_F(SerialRefusalTest, ALineWithALivingProgramsLockFileIsOpenAlready) {
   std::filesystem::remove(lockFile());
 }
 
-TEST_F(SerialRefusalTest, ALockFileOfADeadProgramIsTakenOver) {
-  std::ofstream(lockFile()) << INT_MAX << "\n";
-  EXPECT_EQ(failureOf(kPort), "");
+TEST_F(SerialRefusalTest, ALockFileThatIsLeftOverIsTakenOver) {
+  const ChildProcess living;
+  for (const pid_t holder : {INT_MAX, living.id(), ::getpid()}) {
+    std::ofstream(lockFile()) << holder << "\n";
+    EXPECT_EQ(failureOf(kPort), "") << holder;
+    device_.close();
+  }
 }
 
 TEST_F(SerialRefusalTest, TheOpenPortIsLockedAgainstOthersUnderAnyName) {
   open();
   EXPECT_TRUE(std::filesystem::exists(lockFile()));
   std::filesystem::create_symlink(terminal_->device(), folder_.path() / "ports/COM8");
-  QtSerialDevice other(loop_, names_, locks_);
+  QtSerialDevice other(clock_, loop_, names_, locks_);
   EXPECT_THROW(other.open(8, {}, Handshaking::none), RuntimeFailure);
   device_.close();
   EXPECT_FALSE(std::filesystem::exists(lockFile()));
