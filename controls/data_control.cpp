@@ -7,7 +7,9 @@ namespace gsm {
 DataControl::DataControl(Window& window, std::string name, Design design, int index)
     : Control(window, std::move(name), index, nullptr, /*visible=*/true, /*enabled=*/true),
       databaseName_(std::move(design.DatabaseName)),
-      recordSource_(std::move(design.RecordSource)) {}
+      recordSource_(std::move(design.RecordSource)) {
+  setUnseen(true);
+}
 
 void DataControl::Refresh() {
   reference();

@@ -22,7 +22,9 @@ TextBox::TextBox(Window& window, std::string name, Design design, int index)
                  box.SelStart.store(std::clamp(position, 0, length));
                }),
       masked_(design.Masked),
-      multiLine_(design.MultiLine) {}
+      multiLine_(design.MultiLine) {
+  setUnseen(design.Unseen);
+}
 
 std::string TextBox::cut(std::string text) const {
   const auto limit = static_cast<std::size_t>(MaxLength.peek());

@@ -16,6 +16,7 @@ struct TextBoxDesign {
   bool MultiLine = false;
   bool Visible = true;
   bool Enabled = true;
+  bool Unseen = false;  // a place for data
 };
 
 /// A box of text that the user types into, or, when it has no view, a text that handlers share.

@@ -7,11 +7,13 @@
 
 namespace gsm {
 
-Form11::Form11(Panel& panel) : Window(panel.platform, "Form11") {}
+Form11::Form11(Panel& panel) : Window(panel.platform, "Form11", {.Quiet = true, .Notice = true}) {}
 
-Form7::Form7(Panel& panel) : Window(panel.platform, "Form7", {.Caption = "GSM-N/W"}) {}
+Form7::Form7(Panel& panel)
+    : Window(panel.platform, "Form7", {.Caption = "GSM-N/W", .Quiet = true}) {}
 
-Form20::Form20(Panel& panel) : Window(panel.platform, "Form20"), panel_(panel) {
+Form20::Form20(Panel& panel)
+    : Window(panel.platform, "Form20", {.Quiet = true, .Notice = true}), panel_(panel) {
   Timer1.Tick = [this] { Timer1_Tick(); };
 }
 
