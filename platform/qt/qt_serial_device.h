@@ -25,6 +25,7 @@ class QtSerialDevice : public SerialDevice {
   void close() override;
   void configure(const LineSettings& settings, Handshaking handshaking) override;
   void write(std::string_view bytes) override;
+  bool isGone() const override;
 
  private:
   EventLoop& loop_;

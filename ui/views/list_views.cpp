@@ -50,9 +50,8 @@ ComboView::ComboView(ComboBox& control, QComboBox& widget, const UserActions& ac
     : ViewOf(control, widget, actions) {
   widget.setEditable(control.isEditable());
   widget.setInsertPolicy(QComboBox::NoInsert);
-  connect(&widget, &QComboBox::activated, this, [this](int index) {
-    this->actions().post([this, index] { return control_.userSelect(index); });
-  });
+  connect(&widget, &QComboBox::activated, this,
+          [this](int index) { post([this, index] { return control_.userSelect(index); }); });
   if (!control.isEditable()) return;
   // Typing selects no item, and no item finishes what is typed.
   widget.setCompleter(nullptr);
@@ -62,7 +61,12 @@ ComboView::ComboView(ComboBox& control, QComboBox& widget, const UserActions& ac
 
 // What the box holds by then, as with a text box.
 void ComboView::takeTyping() {
-  actions().post([this] { return control_.userEdit(fromQt(widget_.currentText())); });
+  actions().post([this] {
+    const QString typed = widget_.currentText();
+    const bool done = control_.userEdit(fromQt(typed));
+    if (widget_.currentText() == typed) showText();  // the control may have taken less
+    return done;
+  });
 }
 
 void ComboView::show(PropertyId property) {
@@ -117,7 +121,7 @@ int ListView::selected() const {
 }
 
 void ListView::pick(int index) {
-  actions().post([this, index] { return control_.userSelect(index); });
+  post([this, index] { return control_.userSelect(index); });
 }
 
 void ListView::show(PropertyId property) {

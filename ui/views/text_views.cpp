@@ -60,7 +60,10 @@ bool TextView::takeNow() {
   const auto limit = static_cast<std::size_t>(control_.MaxLength.peek());
   if (limit > 0 && text.size() > limit) text.resize(limit);
   showText(text);
-  return control_.userEdit(text, caret());
+  const bool done = control_.userEdit(text, caret());
+  // What the control took may be less; what has been typed meanwhile takes a turn of its own.
+  if (shownText() == forWidget(text)) showText(control_.Text.peek());
+  return done;
 }
 
 bool TextView::eventFilter(QObject*, QEvent* event) {

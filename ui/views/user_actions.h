@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/event_loop.h"
+#include "ui/views/going_on.h"
 
 namespace gsm {
 
@@ -21,6 +22,14 @@ class UserActions {
   void post(std::function<bool()> action) const {
     loop_.post([this, action = std::move(action)] {
       if (!action()) showAgain_();
+    });
+  }
+
+  /// Likewise for what the user did on `widget`, which shows that something is going on meanwhile.
+  void post(QWidget& widget, std::function<bool()> action) const {
+    post([&widget, action = std::move(action)] {
+      const GoingOn goingOn(widget);
+      return action();
     });
   }
 
