@@ -19,7 +19,7 @@ struct WindowDesign {
   bool Quiet = false;   // comes up without taking the keyboard: the user may be typing elsewhere
   bool Urgent = false;  // comes up over another program's windows too
   bool Notice = false;  // is there to be looked at for some seconds, and takes no click
-  bool Asks = false;    // the handler that shows it waits for what the user does in it
+  bool Asks = false;    // asks the user for something, and what goes on beneath waits for that
 };
 
 /// A window. The object exists for the whole run; being loaded is a state. Any reference to a

@@ -1,6 +1,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QStyle>
 #include <QTextDocument>
 
 #include "controls/controls.h"
@@ -172,6 +173,18 @@ TEST_F(ListViewsTest, APickThatThePanelDoesntTakeIsUndone) {
   window_.cboPort.Enabled = false;
   settle();
   EXPECT_EQ(drop_.currentIndex(), 0);
+}
+
+// What is pasted may hold more than the control takes; the test's own rule stands for that.
+TEST_F(ListViewsTest, AnEditableComboShowsWhatTheControlHolds) {
+  combo_.lineEdit()->setText("1\rATD112;\r");
+  emit combo_.lineEdit()->textEdited(combo_.lineEdit()->text());
+  settle();
+  EXPECT_EQ(combo_.currentText().toStdString(), window_.Combo1.Text.peek());
+}
+
+TEST_F(ListViewsTest, TheListOfADropDownHasNoStripsToScrollBy) {
+  EXPECT_FALSE(drop_.style()->styleHint(QStyle::SH_ComboBox_Popup, nullptr, &drop_));
 }
 
 TEST_F(ListViewsTest, ItemsHaveTheirTips) {

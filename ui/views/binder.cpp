@@ -26,8 +26,8 @@ void Binder::bind(Window& window, std::unique_ptr<QWidget> form) {
 }
 
 void Binder::bind(Window& window, WindowView::MakeForm makeForm) {
-  bound_.push_back(
-      {&window, std::make_unique<WindowView>(window, std::move(makeForm), loop_, order_)});
+  bound_.push_back({&window, std::make_unique<WindowView>(window, std::move(makeForm), loop_,
+                                                          order_, pointer_)});
 }
 
 QWidget* Binder::widget(const Window& window) const {

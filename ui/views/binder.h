@@ -43,6 +43,7 @@ class Binder {
 
   EventLoop& loop_;
   FormOrder order_;
+  BusyPointer pointer_;
   std::vector<Bound> bound_;
 };
 

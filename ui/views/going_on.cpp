@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QVariant>
+#include <algorithm>
 
 #include "ui/views/screen_text.h"
 
@@ -17,25 +18,55 @@ void count(QWidget& widget, int more) {
 
 }  // namespace
 
-GoingOn::GoingOn(QWidget& begun) : begun_(&begun) {
-  QApplication::setOverrideCursor(Qt::BusyCursor);
+BusyPointer::~BusyPointer() {
+  if (shown_) QApplication::restoreOverrideCursor();
+}
+
+void BusyPointer::begin() {
+  ++going_;
+  show();
+}
+
+void BusyPointer::end() {
+  --going_;
+  for (Question& each : questions_) each.going = std::min(each.going, going_);
+  show();
+}
+
+void BusyPointer::ask(const void* question) {
+  questions_.push_back({question, going_});
+  show();
+}
+
+void BusyPointer::answered(const void* question) {
+  std::erase_if(questions_, [=](const Question& each) { return each.question == question; });
+  show();
+}
+
+void BusyPointer::show() {
+  int beneath = 0;
+  for (const Question& each : questions_) beneath = std::max(beneath, each.going);
+  const bool isBusy = going_ > beneath;
+  if (isBusy == shown_) return;
+  shown_ = isBusy;
+  if (isBusy) {
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+}
+
+GoingOn::GoingOn(BusyPointer& pointer, QWidget& begun) : pointer_(pointer), begun_(&begun) {
+  pointer_.begin();
   count(begun, 1);
 }
 
 GoingOn::~GoingOn() {
-  QApplication::restoreOverrideCursor();
+  pointer_.end();
   if (begun_) count(*begun_, -1);
 }
 
-WaitingForUser::WaitingForUser() : wasBusy_(QApplication::overrideCursor() != nullptr) {
-  if (wasBusy_) QApplication::setOverrideCursor(Qt::ArrowCursor);
-}
-
-WaitingForUser::~WaitingForUser() {
-  if (wasBusy_) QApplication::restoreOverrideCursor();
-}
-
-Closing::Closing(QWidget& form) : goingOn_(form), veil_(new QWidget(&form)) {
+Veil::Veil(QWidget& form) : veil_(new QWidget(&form)) {
   veil_->setObjectName("decoVeil");
   veil_->setAttribute(Qt::WA_StyledBackground);
   // What the user does goes on to what lies below: only the panel says what is in reach.
@@ -44,7 +75,7 @@ Closing::Closing(QWidget& form) : goingOn_(form), veil_(new QWidget(&form)) {
   veil_->show();
 }
 
-Closing::~Closing() {
+Veil::~Veil() {
   if (veil_) veil_->deleteLater();
 }
 

@@ -2,48 +2,71 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <vector>
 
 namespace gsm {
 
-/// Shows for as long as it lives that something is going on: the pointer over the program is busy,
-/// and the widget that began it has the property `busy`, by which it looks pressed.
+/// The pointer over the program: busy while something is going on that the user has begun, unless
+/// the program waits for its user.
+class BusyPointer {
+ public:
+  BusyPointer() = default;
+  ~BusyPointer();
+  BusyPointer(const BusyPointer&) = delete;
+  BusyPointer& operator=(const BusyPointer&) = delete;
+
+  // What is going on is begun and ended like handlers, the newest first.
+  void begin();
+  void end();
+
+  // The program asks its user for something: what has been going on until then doesn't count.
+  // Questions may be answered in any order.
+  void ask(const void* question);
+  void answered(const void* question);
+
+  /// Whether something is going on, asked or not.
+  bool isGoingOn() const { return going_ > 0; }
+
+ private:
+  struct Question {
+    const void* question;
+    int going;  // so many things went on beneath it
+  };
+
+  void show();
+
+  int going_ = 0;
+  std::vector<Question> questions_;
+  bool shown_ = false;
+};
+
+/// Shows for as long as it lives that something is going on: the pointer is busy, and the widget
+/// that began it has the property `busy`, by which it looks pressed.
 class GoingOn {
  public:
   static constexpr const char* kProperty = "busy";
 
-  explicit GoingOn(QWidget& begun);
+  /// `pointer` must outlive it.
+  GoingOn(BusyPointer& pointer, QWidget& begun);
   ~GoingOn();
   GoingOn(const GoingOn&) = delete;
   GoingOn& operator=(const GoingOn&) = delete;
 
  private:
-  QPointer<QWidget> begun_;
+  BusyPointer& pointer_;
+  const QPointer<QWidget> begun_;
 };
 
-/// Shows for as long as it lives that the program waits for its user, whatever is going on beneath.
-class WaitingForUser {
+/// Shows for as long as it lives that the request to close a window was taken: its form is veiled.
+class Veil {
  public:
-  WaitingForUser();
-  ~WaitingForUser();
-  WaitingForUser(const WaitingForUser&) = delete;
-  WaitingForUser& operator=(const WaitingForUser&) = delete;
+  explicit Veil(QWidget& form);
+  ~Veil();
+  Veil(const Veil&) = delete;
+  Veil& operator=(const Veil&) = delete;
 
  private:
-  const bool wasBusy_;
-};
-
-/// Shows for as long as it lives that the request to close a window was taken: its form is veiled,
-/// and something is going on.
-class Closing {
- public:
-  explicit Closing(QWidget& form);
-  ~Closing();
-  Closing(const Closing&) = delete;
-  Closing& operator=(const Closing&) = delete;
-
- private:
-  GoingOn goingOn_;
-  QPointer<QWidget> veil_;
+  const QPointer<QWidget> veil_;
 };
 
 }  // namespace gsm

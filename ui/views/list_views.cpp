@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "platform/qt/text_codec.h"
@@ -50,6 +51,8 @@ ComboView::ComboView(ComboBox& control, QComboBox& widget, const UserActions& ac
     : ViewOf(control, widget, actions) {
   widget.setEditable(control.isEditable());
   widget.setInsertPolicy(QComboBox::NoInsert);
+  // The one by which the style sheet says how entries look.
+  widget.setItemDelegate(new QStyledItemDelegate(&widget));
   connect(&widget, &QComboBox::activated, this,
           [this](int index) { post([this, index] { return control_.userSelect(index); }); });
   if (!control.isEditable()) return;

@@ -18,6 +18,8 @@
 namespace gsm {
 namespace {
 
+constexpr const char* kAsks = "asks";
+
 Qt::WindowStates qtState(int state) {
   switch (state) {
     case WindowState::minimised: return Qt::WindowMinimized;
@@ -40,7 +42,7 @@ void makeNotice(QWidget& form) {
 
 // What a desktop draws around a window, by one that is up already.
 QSize frameOf(const QWidget* up) {
-  constexpr QSize kUsual{2, 32};
+  constexpr QSize kUsual{8, 40};
   return up == nullptr ? kUsual : up->frameGeometry().size() - up->size();
 }
 
@@ -65,11 +67,13 @@ QString widgetName(const Control& control) {
   return name;
 }
 
-WindowView::WindowView(Window& window, MakeForm makeForm, EventLoop& loop, FormOrder& order)
+WindowView::WindowView(Window& window, MakeForm makeForm, EventLoop& loop, FormOrder& order,
+                       BusyPointer& pointer)
     : window_(window),
       makeForm_(std::move(makeForm)),
       order_(order),
-      actions_(loop, [this] { showAll(); }) {
+      pointer_(pointer),
+      actions_(loop, pointer, [this] { showAll(); }) {
   window.attach(this);
   if (window.Visible.peek()) form();
 }
@@ -85,6 +89,7 @@ void WindowView::makeForm() {
   form_ = makeForm_();
   order_.add(*form_);
   if (window_.design().Notice) makeNotice(*form_);
+  form_->setProperty(kAsks, window_.design().Asks);
   form_->setWindowIconText(kDisplayName);
   form_->installEventFilter(this);
   bindControls();
@@ -198,17 +203,26 @@ void WindowView::comeUp() {
   form_->setAttribute(Qt::WA_ShowWithoutActivating, !takesKeyboard);
   if (form_->isHidden()) place();
   // Asked for by the user, and not by what goes on underneath.
-  if (form_->isMinimized() && !isElsewhere && QApplication::overrideCursor() != nullptr) {
+  if (form_->isMinimized() && !isElsewhere && pointer_.isGoingOn()) {
     form_->setWindowState(form_->windowState() & ~Qt::WindowMinimized);
   }
+  if (window_.design().Asks && form_->isHidden()) pointer_.ask(this);
   form_->show();
-  if (window_.design().Asks && !waiting_) waiting_.emplace();
-  if (!isElsewhere || window_.design().Urgent) {
+  bringToFront(isElsewhere);
+  if (takesKeyboard && !form_->isMinimized()) form_->activateWindow();
+}
+
+// What isn't urgent neither covers another program's windows nor one that asks the user.
+void WindowView::bringToFront(bool isElsewhere) {
+  const WindowDesign& design = window_.design();
+  if (!isElsewhere || design.Urgent) {
     form_->raise();
-  } else if (window_.design().Notice) {
+  } else if (design.Notice) {
     form_->lower();
   }
-  if (takesKeyboard && !form_->isMinimized()) form_->activateWindow();
+  QWidget* last = order_.lastOnView(*form_);
+  const bool isAsking = last != nullptr && last->property(kAsks).toBool();
+  if (isAsking && design.Quiet && !design.Urgent && !isElsewhere) last->raise();
 }
 
 // The window that had the keyboard before gets it back.
@@ -216,7 +230,7 @@ void WindowView::goAway() {
   const bool hadKeyboard = form_->isActiveWindow();
   lastPlace_ = form_->pos();
   form_->hide();
-  waiting_.reset();
+  pointer_.answered(this);
   if (!hadKeyboard) return;
   if (QWidget* next = order_.lastOnView(*form_)) {
     next->raise();
@@ -237,14 +251,18 @@ void WindowView::place() {
   form_->ensurePolished();
   const QSize room = form_->screen()->availableGeometry().size() - frameOf(below);
   form_->resize(form_->size().boundedTo(room));
-  if (below != nullptr) centreOver(below->frameGeometry());
+  if (below != nullptr) {
+    centreOver(below->frameGeometry());
+  } else if (lastPlace_) {
+    centreOver(QGuiApplication::primaryScreen()->availableGeometry());
+  }
 }
 
 void WindowView::centreOver(const QRect& ground) {
   const QWidget* below = order_.lastOnView(*form_);
   QRect place({}, form_->size().expandedTo(form_->minimumSizeHint()) + frameOf(below));
   place.moveCenter(ground.center());
-  const QScreen* screen = below != nullptr ? below->screen() : form_->screen();
+  const QScreen* screen = below != nullptr ? below->screen() : QGuiApplication::primaryScreen();
   form_->move(within(place, screen->availableGeometry()).topLeft());
 }
 
@@ -286,8 +304,8 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
   switch (event->type()) {
     case QEvent::Close:
       event->ignore();
-      actions_.post(
-          [this, closing = std::make_shared<Closing>(*form_)] { return window_.userClose(); });
+      actions_.post(*form_,
+                    [this, veil = std::make_shared<Veil>(*form_)] { return window_.userClose(); });
       return true;
     case QEvent::WindowStateChange:
       if (panelState(form_->windowState()) != window_.WindowState.peek()) takeState();

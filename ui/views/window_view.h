@@ -25,8 +25,9 @@ class WindowView : public QObject, public View {
   /// Makes the window's widget with all that is on it.
   using MakeForm = std::function<std::unique_ptr<QWidget>()>;
 
-  /// `window`, `loop` and `order` must outlive the view.
-  WindowView(Window& window, MakeForm makeForm, EventLoop& loop, FormOrder& order);
+  /// All of them must outlive the view.
+  WindowView(Window& window, MakeForm makeForm, EventLoop& loop, FormOrder& order,
+             BusyPointer& pointer);
   ~WindowView() override;
   WindowView(const WindowView&) = delete;
   WindowView& operator=(const WindowView&) = delete;
@@ -51,6 +52,7 @@ class WindowView : public QObject, public View {
   void showState();
   void showTopMost();
   void comeUp();
+  void bringToFront(bool isElsewhere);
   void goAway();
   void place();
   void centreOver(const QRect& ground);
@@ -60,11 +62,11 @@ class WindowView : public QObject, public View {
   Window& window_;
   const MakeForm makeForm_;
   FormOrder& order_;
+  BusyPointer& pointer_;
   const UserActions actions_;
   std::unique_ptr<QWidget> form_;
   std::vector<std::unique_ptr<ControlView>> controls_;
   std::optional<QPoint> lastPlace_;  // where the user has left it
-  std::optional<WaitingForUser> waiting_;
 };
 
 /// The name of the widget that shows `control`: its own, in an array with "_" and the index behind.
