@@ -30,6 +30,14 @@ class Control : public PropertyOwner {
 
   void reference() const override;
 
+  /// Whether it is a place for data that is never on view.
+  bool isUnseen() const { return unseen_; }
+
+  /// The key that clicks the control from wherever the focus is in its window, but for a box that
+  /// takes typing; 0 for none, `kBackspaceKey` for that key.
+  char key() const { return key_; }
+  static constexpr char kBackspaceKey = '\b';
+
   /// Whether the user could act on the control now: enabled and visible, with all that holds it,
   /// and no message box in front.
   bool isReachable() const;
@@ -49,6 +57,10 @@ class Control : public PropertyOwner {
 
   const Platform& platform() const;
 
+  // For the constructors of those whose design says so.
+  void setUnseen(bool unseen) { unseen_ = unseen; }
+  void setKey(char key) { key_ = key; }
+
   /// Raises the event for the user, unless the control is out of reach. Whether it did.
   bool raiseIfReachable(const Event& event);
 
@@ -58,6 +70,8 @@ class Control : public PropertyOwner {
   Window& window_;
   const int index_;
   Control* const container_;
+  bool unseen_ = false;
+  char key_ = 0;
 };
 
 /// An event of a control, to which its window ties a handler.

@@ -7,7 +7,9 @@ namespace gsm {
 DataControl::DataControl(Window& window, std::string name, Design design, int index)
     : Control(window, std::move(name), index, nullptr, /*visible=*/true, /*enabled=*/true),
       RecordSource(*this, std::move(design.RecordSource)),
-      databaseName_(std::move(design.DatabaseName)) {}
+      databaseName_(std::move(design.DatabaseName)) {
+  setUnseen(true);
+}
 
 DataControl::Source& DataControl::Source::operator=(std::string text) {
   control_.reference();

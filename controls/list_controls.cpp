@@ -78,7 +78,9 @@ ComboBox::ComboBox(Window& window, std::string name, Design design, int index)
              combo.Text.store(std::move(text));
              combo.ListIndex.store(found ? static_cast<int>(item - items.begin()) : -1);
            }),
-      style_(design.Style) {}
+      style_(design.Style) {
+  setUnseen(design.Unseen);
+}
 
 void ComboBox::Clear() {
   removeAll();

@@ -69,6 +69,7 @@ struct ComboBoxDesign {
   ComboStyle Style = ComboStyle::editable;
   bool Visible = true;
   bool Enabled = true;
+  bool Unseen = false;  // a place for data
 };
 
 /// A text with a list of items to take it from.

@@ -13,6 +13,7 @@ struct LabelDesign {
   bool Visible = true;
   bool Enabled = true;
   int ForeColor = kBlack;
+  char Key = 0;  // clicks it; likewise below
 };
 
 /// A text that the user reads, and may click. Always plain text.
@@ -35,6 +36,9 @@ struct CommandButtonDesign {
   bool Visible = true;
   bool Enabled = true;
   int BackColor = kButtonGrey;
+  bool Default = false;  // Enter presses it from anywhere in the window
+  bool Cancel = false;   // so does Escape
+  char Key = 0;
 };
 
 class CommandButton : public Control {
@@ -47,12 +51,20 @@ class CommandButton : public Control {
   Event Click{*this};
 
   bool userClick();
+
+  bool isDefault() const { return default_; }
+  bool isCancel() const { return cancel_; }
+
+ private:
+  const bool default_;
+  const bool cancel_;
 };
 
 struct PictureDesign {
   Control* In = nullptr;
   bool Visible = true;
   bool Enabled = true;
+  char Key = 0;
 };
 
 /// A picture, which the user may click.

@@ -35,7 +35,9 @@ TextBox::TextBox(Window& window, std::string name, Design design, int index)
                  static_cast<TextBox&>(owner).moveCaret(position);
                }),
       masked_(design.Masked),
-      multiLine_(design.MultiLine) {}
+      multiLine_(design.MultiLine) {
+  setUnseen(design.Unseen);
+}
 
 std::string TextBox::cut(std::string text) const {
   const auto limit = static_cast<std::size_t>(MaxLength.peek());

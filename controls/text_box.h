@@ -16,6 +16,7 @@ struct TextBoxDesign {
   bool MultiLine = false;
   bool Visible = true;
   bool Enabled = true;
+  bool Unseen = false;  // a place for data
 };
 
 /// What a box of one line takes of `text` when the user types or pastes it: all up to the first

@@ -7,7 +7,9 @@ namespace gsm {
 
 Timer::Timer(Window& window, std::string name, Design design, int index)
     : Control(window, std::move(name), index, nullptr, /*visible=*/true, design.Enabled),
-      Interval(*this, PropertyId::Interval, design.Interval) {}
+      Interval(*this, PropertyId::Interval, design.Interval) {
+  setUnseen(true);
+}
 
 void Timer::stored(PropertyId property) {
   Control::stored(property);

@@ -6,13 +6,14 @@ namespace gsm {
 
 Window::Window(Platform& platform, std::string name, WindowDesign design)
     : PropertyOwner(std::move(name)),
-      Caption(*this, PropertyId::Caption, std::move(design.Caption)),
+      Caption(*this, PropertyId::Caption, design.Caption),
       Visible(*this, PropertyId::Visible, false),
       WindowState(*this, PropertyId::WindowState, gsm::WindowState::normal),
       MousePointer(*this, PropertyId::MousePointer, gsm::MousePointer::arrow),
       TopMost(*this, PropertyId::TopMost, false),
       Centred(*this, PropertyId::Centred, false),
-      platform_(platform) {
+      platform_(platform),
+      design_(std::move(design)) {
   platform.windows.push_back(this);
 }
 

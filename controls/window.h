@@ -13,8 +13,13 @@ namespace gsm {
 enum WindowState { normal = 0, minimised = 1, maximised = 2 };
 enum MousePointer { arrow = 0, hourglass = 11 };
 
+/// What a window is from the start. What follows the caption is for the screen alone.
 struct WindowDesign {
   std::string Caption;
+  bool Quiet = false;   // comes up without taking the keyboard: the user may be typing elsewhere
+  bool Urgent = false;  // comes up over another program's windows too
+  bool Notice = false;  // is there to be looked at for some seconds, and takes no click
+  bool Asks = false;    // asks the user for something, and what goes on beneath waits for that
 };
 
 /// A window. The object exists for the whole run; being loaded is a state. Any reference to a
@@ -55,6 +60,8 @@ class Window : public PropertyOwner {
 
   Platform& platform() const { return platform_; }
 
+  const WindowDesign& design() const { return design_; }
+
  protected:
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
@@ -69,6 +76,7 @@ class Window : public PropertyOwner {
   bool isReachable() const;
 
   Platform& platform_;
+  const WindowDesign design_;
   std::vector<Control*> controls_;
   bool loaded_ = false;
   int loads_ = 0;  // so far

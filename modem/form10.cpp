@@ -6,7 +6,7 @@
 
 namespace gsm {
 
-Form10::Form10(Panel& panel) : Window(panel.platform, "Form10"), panel_(panel) {
+Form10::Form10(Panel& panel) : Window(panel.platform, "Form10", {.Asks = true}), panel_(panel) {
   Command1.Click = [this] { sendCode(); };
 }
 

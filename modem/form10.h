@@ -19,7 +19,7 @@ class Form10 : public Window {
   Label Label2{*this, "Label2", {.Caption = "Enter PUK ", .In = &Frame1}};
   TextBox Text2{*this, "Text2", {.In = &Frame1, .MaxLength = 8}};
   Label Label3{*this, "Label3", {.In = &Frame1}};
-  CommandButton Command1{*this, "Command1", {.Caption = "&Ok", .In = &Frame1}};
+  CommandButton Command1{*this, "Command1", {.Caption = "&Ok", .In = &Frame1, .Default = true}};
 
   /// Shows the PIN's prompt and box without the PUK's.
   void showPinForm();

@@ -6,9 +6,10 @@
 
 namespace gsm {
 
-Form11::Form11(Panel& panel) : Window(panel.platform, "Form11") {}
+Form11::Form11(Panel& panel) : Window(panel.platform, "Form11", {.Quiet = true, .Notice = true}) {}
 
-Form20::Form20(Panel& panel) : Window(panel.platform, "Form20"), panel_(panel) {
+Form20::Form20(Panel& panel)
+    : Window(panel.platform, "Form20", {.Quiet = true, .Notice = true}), panel_(panel) {
   Timer1.Tick = [this] { comeUp(); };
 }
 

@@ -192,11 +192,11 @@ class Form1 : public Window {
   ListBox List1{*this, "List1", {.In = &Frame5}};  // the log; nothing reads it
 
   // Below the client area, so never on view.
-  Transcript Text1{*this, "Text1", {.MultiLine = true}};
-  TextBox Text2{*this, "Text2", {.Text = "0"}};
-  TextBox Text3{*this, "Text3", {.Text = "0"}};
-  ComboBox Combo1{*this, "Combo1"};  // the ports to sweep
-  ComboBox Combo2{*this, "Combo2"};  // the free ports
+  Transcript Text1{*this, "Text1", {.MultiLine = true, .Unseen = true}};
+  TextBox Text2{*this, "Text2", {.Text = "0", .Unseen = true}};
+  TextBox Text3{*this, "Text3", {.Text = "0", .Unseen = true}};
+  ComboBox Combo1{*this, "Combo1", {.Unseen = true}};  // the ports to sweep
+  ComboBox Combo2{*this, "Combo2", {.Unseen = true}};  // the free ports
 
   Conversation modem{platform(), MSComm1, Text1};
 

@@ -4,6 +4,6 @@
 
 namespace gsm {
 
-Form7::Form7(Panel& panel) : Window(panel.platform, "Form7", {.Caption = "GSM-N/W"}) {}
+Form7::Form7(Panel& panel) : Window(panel.platform, "Form7", {.Caption = "GSM-N/W", .Quiet = true}) {}
 
 }  // namespace gsm

@@ -17,24 +17,25 @@ class Form3 : public FeatureWindow {
   TextBox Text1{*this, "Text1", {.In = &Frame1, .MaxLength = 30, .Enabled = false}};  // dial box
   ControlArray<Picture> Image{*this,
                               "Image",
-                              {{.In = &Frame1},
-                               {.In = &Frame1},
-                               {.In = &Frame1},
-                               {.In = &Frame1},
-                               {.In = &Frame1},
-                               {.In = &Frame1},
-                               {.In = &Frame1},
-                               {.In = &Frame1},
-                               {.In = &Frame1},
-                               {.In = &Frame1}}};
+                              {{.In = &Frame1, .Key = '0'},
+                               {.In = &Frame1, .Key = '1'},
+                               {.In = &Frame1, .Key = '2'},
+                               {.In = &Frame1, .Key = '3'},
+                               {.In = &Frame1, .Key = '4'},
+                               {.In = &Frame1, .Key = '5'},
+                               {.In = &Frame1, .Key = '6'},
+                               {.In = &Frame1, .Key = '7'},
+                               {.In = &Frame1, .Key = '8'},
+                               {.In = &Frame1, .Key = '9'}}};
   Picture Image1{*this, "Image1", {.In = &Frame1}};  // the grounds of the two keys below
   Picture Image2{*this, "Image2", {.In = &Frame1}};
-  Label Label4{*this, "Label4", {.Caption = "X", .In = &Frame1}};
-  Label Label2{*this, "Label2", {.Caption = "#", .In = &Frame1}};
+  Label Label4{*this, "Label4", {.Caption = "X", .In = &Frame1, .Key = '*'}};
+  Label Label2{*this, "Label2", {.Caption = "#", .In = &Frame1, .Key = '#'}};
   CommandButton Command1{*this, "Command1", {.In = &Frame1}};  // dial
   CommandButton Command4{*this, "Command4", {.In = &Frame1}};  // hang up
   CommandButton Command8{*this, "Command8", {.Caption = "Redial", .In = &Frame1}};
-  CommandButton Command6{*this, "Command6", {.Caption = "<=", .In = &Frame1}};
+  CommandButton Command6{
+      *this, "Command6", {.Caption = "<=", .In = &Frame1, .Key = Control::kBackspaceKey}};
   CommandButton Command7{*this, "Command7", {.Caption = "Clear", .In = &Frame1}};
   Label Label1{*this, "Label1", {.Caption = "<<Signal>>"}};
   Frame Frame3{*this, "Frame3"};

@@ -8,7 +8,8 @@
 namespace gsm {
 
 Form4::Form4(Panel& panel)
-    : Window(panel.platform, "Form4", {.Caption = "GSM-Add NUmbers To PhoneBook"}), panel_(panel) {
+    : Window(panel.platform, "Form4", {.Caption = "GSM-Add NUmbers To PhoneBook", .Asks = true}),
+      panel_(panel) {
   Command1.Click = [this] { addEntry(); };
   Command2.Click = [this] { returnToCalls(); };
 }

@@ -22,8 +22,8 @@ class Form4 : public Window {
   TextBox Text3{*this, "Text3", {.MaxLength = 15}};
   Label Label1{*this, "Label1", {.Caption = "Name"}};
   TextBox Text4{*this, "Text4", {.MaxLength = 14}};
-  CommandButton Command1{*this, "Command1", {.Caption = "&Ok"}};
-  CommandButton Command2{*this, "Command2", {.Caption = "&Cancel"}};
+  CommandButton Command1{*this, "Command1", {.Caption = "&Ok", .Default = true}};
+  CommandButton Command2{*this, "Command2", {.Caption = "&Cancel", .Cancel = true}};
 
  protected:
   void Form_Load() override;

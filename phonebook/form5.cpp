@@ -7,7 +7,10 @@
 namespace gsm {
 
 Form5::Form5(Panel& panel)
-    : Window(panel.platform, "Form5", {.Caption = "Call Received....."}), panel_(panel) {
+    // Quiet, for a key that is meant for another window must not answer a call.
+    : Window(panel.platform, "Form5",
+             {.Caption = "Call Received.....", .Quiet = true, .Urgent = true}),
+      panel_(panel) {
   Command1.Click = [this] { answer(); };
   Command2.Click = [this] { hangUp(); };
 }

@@ -70,6 +70,9 @@ class SerialDevice {
 
   /// Begins to send `bytes` on the open line. Throws `deviceError` when the device is gone.
   virtual void write(std::string_view bytes) = 0;
+
+  /// Whether the device has gone since the port was opened, which hasn't been closed yet.
+  virtual bool isGone() const { return false; }
 };
 
 }  // namespace gsm

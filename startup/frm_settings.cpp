@@ -34,7 +34,8 @@ std::string takeField(std::string& rest) {
 
 }  // namespace
 
-frmSettings::frmSettings(Panel& panel) : Window(panel.platform, "frmSettings"), panel_(panel) {
+frmSettings::frmSettings(Panel& panel)
+    : Window(panel.platform, "frmSettings", {.Asks = true}), panel_(panel) {
   for (OptionButton& option : optDataBits) option.Click = [this] { optDataBits_Click(); };
   for (OptionButton& option : optHandshake) {
     option.Click = [this, index = option.index()] { optHandshake_Click(index); };

@@ -48,7 +48,9 @@ class frmSettings : public Window {
                                            {.Caption = "RTS", .In = &fraHandshake},
                                            {.Caption = "Both", .In = &fraHandshake}}};
   ControlArray<CommandButton> cmdAction{
-      *this, "cmdAction", {{.Caption = "OK"}, {.Caption = "Cancel"}}};
+      *this,
+      "cmdAction",
+      {{.Caption = "OK", .Default = true}, {.Caption = "Cancel", .Cancel = true}}};
 
  protected:
   void Form_Load() override;

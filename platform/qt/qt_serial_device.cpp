@@ -102,4 +102,6 @@ void QtSerialDevice::write(std::string_view bytes) {
   line_->write(bytes);
 }
 
+bool QtSerialDevice::isGone() const { return line_ && line_->isGone(); }
+
 }  // namespace gsm

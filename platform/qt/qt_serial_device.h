@@ -28,6 +28,7 @@ class QtSerialDevice : public SerialDevice {
   void configure(const LineSettings& settings, Handshaking handshaking) override;
   void readOn() override;
   void write(std::string_view bytes) override;
+  bool isGone() const override;
 
  private:
   const Clock& clock_;

@@ -57,6 +57,9 @@ class SerialLine : public std::enable_shared_from_this<SerialLine> {
   /// Begins to send. Throws `deviceError` when the device is gone.
   void write(std::string_view bytes);
 
+  /// Whether the device was let go of, since it no longer answers.
+  bool isGone() const { return !port_.isOpen(); }
+
   /// Ends the opening: nobody is told of anything from now on.
   void close();
 

@@ -4,32 +4,20 @@
 
 #include <QAbstractScrollArea>
 #include <QComboBox>
+#include <QLabel>
 #include <QTabBar>
 #include <algorithm>
-#include <map>
 #include <set>
 #include <string>
 
 #include "app/windows.h"
-#include "controls/data_control.h"
+#include "modem/form7.h"
+#include "panel/form1.h"
 #include "tests/support/desktop/desktop_fixture.h"
 #include "ui/views/window_view.h"
 
 namespace gsm {
 namespace {
-
-// Controls that the user never sees: places for data, and what has no looks.
-const std::map<std::string, std::set<std::string>> kUnseen = {
-    {"Form1", {"Text1", "Text2", "Text3", "Combo1", "Combo2", "Timer1", "Timer2"}},
-    {"Form20", {"Timer1"}},
-};
-
-bool isUnseen(const Control& control) {
-  const auto window = kUnseen.find(control.window().name());
-  return (window != kUnseen.end() && window->second.contains(control.name())) ||
-         dynamic_cast<const Timer*>(&control) != nullptr ||
-         dynamic_cast<const DataControl*>(&control) != nullptr;
-}
 
 // Parts that Qt makes for widgets of its own.
 bool isPartOfAnother(const QWidget& widget) {
@@ -73,7 +61,7 @@ TEST_F(FormsTest, EveryFormIsAWindows) {
 TEST_F(FormsTest, EveryControlButTheUnseenHasAWidget) {
   for (const Window* window : windows()) {
     for (const Control* control : window->controls()) {
-      EXPECT_EQ(screen_.widget(*control) == nullptr, isUnseen(*control))
+      EXPECT_EQ(screen_.widget(*control) == nullptr, control->isUnseen())
           << window->name() << "." << control->fullName();
     }
   }
@@ -145,6 +133,74 @@ TEST_F(FormsTest, EveryWindowComesUpAndGoes) {
     EXPECT_FALSE(widget->grab().isNull());
     widget->hide();
   }
+}
+
+// A screen of 1366 x 768 at one and a half times the scale, less the window's frame and a task bar.
+TEST_F(FormsTest, EveryWindowFitsASmallScreen) {
+  const QSize room(1366 * 2 / 3, 768 * 2 / 3 - 64);
+  for (Window* window : windows()) {
+    QWidget* widget = screen_.widget(*window);
+    widget->ensurePolished();
+    const QSize least = widget->minimumSizeHint().expandedTo(widget->minimumSize());
+    EXPECT_LE(least.width(), room.width()) << window->name();
+    EXPECT_LE(least.height(), room.height()) << window->name();
+  }
+}
+
+TEST_F(FormsTest, WindowsWithoutATitleHaveANameAllTheSame) {
+  for (const char* name : {"Form10", "Form11", "Form20"}) {
+    const QWidget* widget = screen_.widget(*windowNamed(platform(), name));
+    EXPECT_EQ(widget->windowTitle(), " ") << name;
+    EXPECT_NE(widget->accessibleName(), "") << name;
+  }
+}
+
+TEST_F(FormsTest, EveryComboHasAName) {
+  for (Window* window : windows()) {
+    for (const QComboBox* combo : screen_.widget(*window)->findChildren<QComboBox*>()) {
+      EXPECT_NE(combo->accessibleName(), "")
+          << window->name() << "." << combo->objectName().toStdString();
+    }
+  }
+}
+
+// The tiles can't be reached by pointer, key or mnemonic while the log stands in their place.
+TEST_F(FormsTest, TheLogStandsInThePlaceOfTheTiles) {
+  Form1& form1 = panel_.form1;
+  platform().handlers.run([&] { form1.Show(); });
+  const auto isOnView = [this](const Control& control) {
+    return screen_.widget(control)->isVisible();
+  };
+  for (const CommandButton* tile :
+       {&form1.Command1, &form1.Command2, &form1.Command3, &form1.Command4, &form1.Command5,
+        &form1.Command6, &form1.Command10, &form1.Command11, &form1.Command12}) {
+    form1.Frame5.Visible = true;
+    EXPECT_FALSE(isOnView(*tile)) << tile->name();
+    form1.Frame5.Visible = false;
+    EXPECT_TRUE(isOnView(*tile)) << tile->name();
+  }
+  EXPECT_FALSE(isOnView(form1.List1));
+  EXPECT_TRUE(isOnView(form1.Command7));
+}
+
+TEST_F(FormsTest, WhereThereIsNoPortTheHeaderSaysSo) {
+  Form1& form1 = panel_.form1;
+  platform().handlers.run([&] { form1.Show(); });
+  settle();
+  const auto* line = screen_.widget(form1)->findChild<QLabel*>("decoNoPort");
+  ASSERT_NE(line, nullptr);
+  EXPECT_TRUE(line->isVisible());
+  EXPECT_EQ(line->text(), "No port. Choose one under Port Settings->");
+  form1.Label1.Caption = "Open";
+  settle();
+  EXPECT_FALSE(line->isVisible());
+}
+
+// The place of a bar is drawn pale; the fifth bar is never shown and has none.
+TEST_F(FormsTest, TheBarThatIsNeverShownHasNoPlaceDrawn) {
+  const QWidget* form = screen_.widget(panel_.form7);
+  EXPECT_EQ(form->findChild<QWidget*>("decoBar4")->property("role").toString(), "barPlace");
+  EXPECT_FALSE(form->findChild<QWidget*>("decoBar5")->property("role").isValid());
 }
 
 }  // namespace

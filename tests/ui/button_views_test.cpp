@@ -81,6 +81,15 @@ TEST_F(ButtonViewsTest, AHandlerThatWaitsCanBeClickedAgain) {
   EXPECT_EQ(most, 2);
 }
 
+TEST_F(ButtonViewsTest, TheTabKeyEntersAGroupAtTheOptionThatIsSet) {
+  EXPECT_FALSE(even_.focusPolicy() & Qt::TabFocus);
+  EXPECT_TRUE(odd_.focusPolicy() & Qt::TabFocus);
+  EXPECT_TRUE(other_.focusPolicy() & Qt::TabFocus) << "one that has none set";
+  window_.optOne[0].Value = true;
+  EXPECT_TRUE(even_.focusPolicy() & Qt::TabFocus);
+  EXPECT_FALSE(odd_.focusPolicy() & Qt::TabFocus);
+}
+
 TEST_F(ButtonViewsTest, OptionsOfAFrameExcludeOneAnother) {
   EXPECT_TRUE(odd_.isChecked());
   window_.optOne[0].Value = true;

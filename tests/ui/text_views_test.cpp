@@ -2,6 +2,7 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QStyle>
 
 #include "controls/controls.h"
 #include "tests/support/desktop/desktop_fixture.h"
@@ -102,6 +103,17 @@ TEST_F(TextViewsTest, APastedLineBreakEndsALine) {
 TEST_F(TextViewsTest, AMaskedBoxShowsNoCharacters) {
   EXPECT_EQ(code_.echoMode(), QLineEdit::Password);
   EXPECT_EQ(line_.echoMode(), QLineEdit::Normal);
+}
+
+TEST_F(TextViewsTest, AMaskedBoxShowsAsterisks) {
+  EXPECT_EQ(code_.style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, &code_), '*');
+}
+
+TEST_F(TextViewsTest, ABoxShowsWhatItsControlHoldsOfAPaste) {
+  line_.setText("1\rATD112;\r");
+  emit line_.textEdited(line_.text());
+  settle();
+  EXPECT_EQ(line_.text().toStdString(), window_.Text1.Text.peek());
 }
 
 TEST_F(TextViewsTest, ABoxTakesNoMoreThanItsLimit) {

@@ -111,6 +111,27 @@ TEST_F(WindowViewTest, ThePanelMinimisesAndRestores) {
   EXPECT_EQ(window_.story, "load resize resize ") << "no echo from the screen";
 }
 
+// What counts is the state when the panel comes to hear of it.
+TEST_F(WindowViewTest, MinimisingAndRestoringWithinOnePassIsNoChange) {
+  bind(window_);
+  form().setWindowState(Qt::WindowMinimized);
+  form().setWindowState(Qt::WindowNoState);
+  settle();
+  EXPECT_EQ(window_.WindowState.peek(), WindowState::normal);
+  EXPECT_EQ(window_.story, "load ");
+}
+
+TEST_F(WindowViewTest, AFormIsMadeWhenItsWindowFirstComesUp) {
+  Binder binder(loop());
+  const auto before = QApplication::topLevelWidgets().size();
+  binder.bind(window_);
+  window_.Caption = "loaded, and not on view";
+  EXPECT_EQ(QApplication::topLevelWidgets().size(), before);
+  window_.Show();
+  EXPECT_EQ(QApplication::topLevelWidgets().size(), before + 1);
+  EXPECT_EQ(binder.widget(window_)->windowTitle(), "loaded, and not on view");
+}
+
 TEST_F(WindowViewTest, KeepsItselfOnTopWhileUp) {
   bind(window_);
   window_.TopMost = true;
@@ -166,14 +187,13 @@ TEST_F(WindowViewTest, TheProgramOutlivesItsLastWindowOnView) {
 // Windows that come up by themselves leave the keyboard where it is.
 TEST_F(WindowViewTest, QuietWindowsDontTakeTheKeyboard) {
   bind(window_);
-  for (const char* name : {"Form7", "Form11", "Form20"}) {
-    PlainWindow quiet(platform(), name);
-    Binder own(loop());
-    own.bind(quiet, std::make_unique<QWidget>());
-    EXPECT_TRUE(own.widget(quiet)->testAttribute(Qt::WA_ShowWithoutActivating)) << name;
-    quiet.Show();
-    EXPECT_TRUE(own.widget(quiet)->isVisible()) << name;
-  }
+  PlainWindow quiet(platform(), "Quiet", {.Quiet = true});
+  Binder own(loop());
+  own.bind(quiet, std::make_unique<QWidget>());
+  quiet.Show();
+  settle();
+  EXPECT_TRUE(own.widget(quiet)->testAttribute(Qt::WA_ShowWithoutActivating));
+  EXPECT_TRUE(own.widget(quiet)->isVisible());
   EXPECT_FALSE(form().testAttribute(Qt::WA_ShowWithoutActivating));
 }
 

@@ -18,6 +18,7 @@ class Binder {
 
   /// Binds `window` to the form of its name, or to an empty one when there is none. `window` must
   /// outlive the binder, and the queue of `loop` may not run on after it.
+  /// Forms are made when their windows first come up.
   void bind(Window& window);
 
   void bind(const std::vector<Window*>& windows);
@@ -25,7 +26,8 @@ class Binder {
   /// Binds `window` to `form` instead.
   void bind(Window& window, std::unique_ptr<QWidget> form);
 
-  /// The widget on which `window` is shown, or null.
+  /// The widget on which `window` is shown, made now if need be; null for a window that isn't
+  /// bound.
   QWidget* widget(const Window& window) const;
 
   /// The widget on which `control` is shown, or null for one that works unseen.
@@ -37,7 +39,11 @@ class Binder {
     std::unique_ptr<WindowView> view;
   };
 
+  void bind(Window& window, WindowView::MakeForm makeForm);
+
   EventLoop& loop_;
+  FormOrder order_;
+  BusyPointer pointer_;
   std::vector<Bound> bound_;
 };
 

@@ -1,6 +1,7 @@
 #include "ui/views/button_views.h"
 
 #include <QSignalBlocker>
+#include <algorithm>
 
 #include "platform/qt/text_codec.h"
 #include "ui/views/screen_text.h"
@@ -11,7 +12,7 @@ ButtonView::ButtonView(CommandButton& control, QPushButton& widget, const UserAc
     : ViewOf(control, widget, actions), formStyle_(widget.styleSheet()) {
   widget.setAutoDefault(true);  // Enter presses the button that has the focus, as the space bar
   connect(&widget, &QPushButton::clicked, this,
-          [this] { this->actions().post([this] { return control_.userClick(); }); });
+          [this] { post([this] { return control_.userClick(); }); });
 }
 
 void ButtonView::show(PropertyId property) {
@@ -24,7 +25,7 @@ void ButtonView::show(PropertyId property) {
 OptionView::OptionView(OptionButton& control, QRadioButton& widget, const UserActions& actions)
     : ViewOf(control, widget, actions) {
   connect(&widget, &QRadioButton::clicked, this,
-          [this] { this->actions().post([this] { return control_.userClick(); }); });
+          [this] { post([this] { return control_.userClick(); }); });
 }
 
 void OptionView::show(PropertyId property) {
@@ -38,6 +39,19 @@ void OptionView::showValue() {
   widget_.setAutoExclusive(false);
   widget_.setChecked(control_.Value.peek());
   widget_.setAutoExclusive(true);
+  setTabStops();
+}
+
+// The Tab key enters a group at the option that is set, and at any of one that has none set.
+void OptionView::setTabStops() {
+  const auto group =
+      widget_.parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+  const bool anySet = std::any_of(group.begin(), group.end(), [](const QRadioButton* each) {
+    return each->isChecked() && each->isEnabled();
+  });
+  for (QRadioButton* each : group) {
+    each->setFocusPolicy(!anySet || each->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+  }
 }
 
 }  // namespace gsm

@@ -13,6 +13,8 @@ class ButtonView : public ViewOf<CommandButton, QPushButton> {
  public:
   ButtonView(CommandButton& control, QPushButton& widget, const UserActions& actions);
 
+  void press() override { widget_.click(); }
+
  protected:
   void show(PropertyId property) override;
 
@@ -31,6 +33,7 @@ class OptionView : public ViewOf<OptionButton, QRadioButton> {
 
  private:
   void showValue();
+  void setTabStops();
 };
 
 }  // namespace gsm

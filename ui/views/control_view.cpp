@@ -36,20 +36,20 @@ constexpr decltype(&make<LabelView, Label, QLabel>) kMakers[] = {
 }  // namespace
 
 ControlView::ControlView(Control& control, QWidget& widget, const UserActions& actions)
-    : control_(control), widget_(widget), actions_(actions) {
+    : base_(control), baseWidget_(widget), actions_(actions) {
   control.attach(this);
 }
 
 void ControlView::changed(PropertyId property) {
   switch (property) {
-    case PropertyId::Visible: widget_.setVisible(control_.Visible.peek()); break;
-    case PropertyId::Enabled: widget_.setEnabled(control_.Enabled.peek()); break;
+    case PropertyId::Visible: baseWidget_.setVisible(base_.Visible.peek()); break;
+    case PropertyId::Enabled: baseWidget_.setEnabled(base_.Enabled.peek()); break;
     default: show(property); break;
   }
 }
 
 void ControlView::showAll() {
-  for (const PropertyBase* property : control_.properties()) changed(property->id());
+  for (const PropertyBase* property : base_.properties()) changed(property->id());
 }
 
 std::unique_ptr<ControlView> makeControlView(Control& control, QWidget& widget,

@@ -2,7 +2,9 @@
 
 #include <QObject>
 #include <QWidget>
+#include <functional>
 #include <memory>
+#include <utility>
 
 #include "controls/control.h"
 #include "controls/view.h"
@@ -14,7 +16,7 @@ namespace gsm {
 /// authority: a widget never changes a property but by an action of its user.
 class ControlView : public QObject, public View {
  public:
-  ~ControlView() override { control_.attach(nullptr); }
+  ~ControlView() override { base_.attach(nullptr); }
   ControlView(const ControlView&) = delete;
   ControlView& operator=(const ControlView&) = delete;
 
@@ -22,6 +24,11 @@ class ControlView : public QObject, public View {
 
   /// Shows every property as it stands.
   void showAll();
+
+  /// Does what the user's click does.
+  virtual void press() {}
+
+  const Control& control() const { return base_; }
 
  protected:
   /// All of them must outlive the view.
@@ -32,9 +39,12 @@ class ControlView : public QObject, public View {
 
   const UserActions& actions() const { return actions_; }
 
+  /// Queues what the user did, as `UserActions::post`; while it goes on, the widget shows that.
+  void post(std::function<bool()> action) const { actions_.post(baseWidget_, std::move(action)); }
+
  private:
-  Control& control_;
-  QWidget& widget_;
+  Control& base_;
+  QWidget& baseWidget_;
   const UserActions& actions_;
 };
 

@@ -13,6 +13,8 @@ class LabelView : public ViewOf<Label, QLabel> {
  public:
   LabelView(Label& control, QLabel& widget, const UserActions& actions);
 
+  void press() override;
+
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  protected:
@@ -28,6 +30,8 @@ class LabelView : public ViewOf<Label, QLabel> {
 class PictureView : public ViewOf<Picture, QWidget> {
  public:
   PictureView(Picture& control, QWidget& widget, const UserActions& actions);
+
+  void press() override;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 

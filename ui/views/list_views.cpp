@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "controls/text_box.h"
@@ -51,9 +52,10 @@ ComboView::ComboView(ComboBox& control, QComboBox& widget, const UserActions& ac
     : ViewOf(control, widget, actions) {
   widget.setEditable(control.isEditable());
   widget.setInsertPolicy(QComboBox::NoInsert);
-  connect(&widget, &QComboBox::activated, this, [this](int index) {
-    this->actions().post([this, index] { return control_.userSelect(index); });
-  });
+  // The one by which the style sheet says how entries look.
+  widget.setItemDelegate(new QStyledItemDelegate(&widget));
+  connect(&widget, &QComboBox::activated, this,
+          [this](int index) { post([this, index] { return control_.userSelect(index); }); });
   if (!control.isEditable()) return;
   // Typing selects no item, and no item finishes what is typed.
   widget.setCompleter(nullptr);
@@ -64,9 +66,10 @@ ComboView::ComboView(ComboBox& control, QComboBox& widget, const UserActions& ac
 // What the box holds by then, as with a text box.
 void ComboView::takeTyping() {
   actions().post([this] {
-    const std::string line = singleLine(fromQt(widget_.currentText()));
-    if (toQt(line) != widget_.currentText()) widget_.setEditText(toQt(line));
-    return control_.userEdit(line);
+    const QString typed = widget_.currentText();
+    const bool done = control_.userEdit(fromQt(typed));
+    if (widget_.currentText() == typed) showText();  // the control may have taken less
+    return done;
   });
 }
 
@@ -122,7 +125,7 @@ int ListView::selected() const {
 }
 
 void ListView::pick(int index) {
-  actions().post([this, index] { return control_.userSelect(index); });
+  post([this, index] { return control_.userSelect(index); });
 }
 
 void ListView::show(PropertyId property) {

@@ -3,15 +3,42 @@
 #include <QApplication>
 #include <QFile>
 #include <QIcon>
+#include <QPalette>
 #include <QStyleFactory>
+#include <QToolTip>
 
 #include "ui/forms.h"
+#include "ui/views/accessibility.h"
 
 namespace gsm {
+namespace {
+
+// The style sheet speaks for a light ground. What it leaves to the desktop's own colours would be
+// unreadable on it where those are dark.
+QPalette lightPalette() {
+  QPalette palette(QColor(0xF3F6F7));
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::ToolTipBase, Qt::white);
+  palette.setColor(QPalette::Highlight, QColor(0x0B6E7F));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  const QColor ink(0x1F2A30);
+  const QColor pale(0x7D8B92);
+  for (const auto role :
+       {QPalette::Text, QPalette::WindowText, QPalette::ButtonText, QPalette::ToolTipText}) {
+    palette.setColor(role, ink);
+    palette.setColor(QPalette::Disabled, role, pale);
+  }
+  return palette;
+}
+
+}  // namespace
 
 void dressApplication() {
   ui::initResources();
   QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QApplication::setPalette(lightPalette());
+  QToolTip::setPalette(lightPalette());
+  describeForms();
   QApplication::setWindowIcon(QIcon(":/icons/gsm-application.svg"));
   if (QFile style(":/style.qss"); style.open(QIODevice::ReadOnly)) {
     qApp->setStyleSheet(QString::fromUtf8(style.readAll()));

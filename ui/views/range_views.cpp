@@ -11,8 +11,7 @@ SliderView::SliderView(Slider& control, QSlider& widget, const UserActions& acti
     : ViewOf(control, widget, actions) {
   widget.setSingleStep(control.smallChange());
   widget.setPageStep(control.largeChange());
-  connect(&widget, &QSlider::valueChanged, this,
-          [this] { this->actions().post([this] { return take(); }); });
+  connect(&widget, &QSlider::valueChanged, this, [this] { post([this] { return take(); }); });
 }
 
 // Takes over where the slider stands by now: while it is dragged, several moves may have been
@@ -41,7 +40,7 @@ TabView::TabView(TabStrip& control, QTabBar& widget, const UserActions& actions)
 }
 
 void TabView::choose(int index) {
-  actions().post([this, index] { return control_.userTab(index + 1); });
+  post([this, index] { return control_.userTab(index + 1); });
 }
 
 void TabView::show(PropertyId) {

@@ -1,14 +1,25 @@
 #include "ui/views/screen_text.h"
 
 #include <QColor>
+#include <QStyle>
+#include <QTextDocument>
 
 namespace gsm {
 
 QString withoutMnemonics(QString text) { return text.replace('&', "&&"); }
 
-// Tool tips guess whether a text is markup; one that is marked up is never guessed at.
+// Tool tips guess whether a text is markup. A mark without width keeps its signs from being any.
 QString asTip(const QString& text) {
-  return text.isEmpty() ? text : "<qt>" + text.toHtmlEscaped() + "</qt>";
+  if (!Qt::mightBeRichText(text)) return text;
+  constexpr QChar kZeroWidth(0x200B);
+  return QString(text)
+      .replace('&', QString('&') + kZeroWidth)
+      .replace('<', QString('<') + kZeroWidth);
+}
+
+void polishAnew(QWidget& widget) {
+  widget.style()->unpolish(&widget);
+  widget.style()->polish(&widget);
 }
 
 void showColour(QWidget& widget, const QString& formStyle, const QString& property, int colour,

@@ -11,6 +11,9 @@ QString withoutMnemonics(QString text);
 /// `text` such that Qt takes no part of it for markup in a tool tip.
 QString asTip(const QString& text);
 
+/// Has the program's style look at the properties of `widget` again.
+void polishAnew(QWidget& widget);
+
 /// Gives `widget` its form's own style sheet `formStyle` and, when `colour` (blue in the high byte)
 /// isn't `usual`, that colour as the style property `property`. The usual one is left to the
 /// program's style.

@@ -58,7 +58,10 @@ void TextView::take() {
 bool TextView::takeNow() {
   const std::string text = control_.admitted(forPanel(shownText()));
   showText(text);
-  return control_.userEdit(text, caret());
+  const bool done = control_.userEdit(text, caret());
+  // What the control took may be less; what has been typed meanwhile takes a turn of its own.
+  if (shownText() == forWidget(text)) showText(control_.Text.peek());
+  return done;
 }
 
 bool TextView::eventFilter(QObject*, QEvent* event) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/event_loop.h"
+#include "ui/views/going_on.h"
 
 namespace gsm {
 
@@ -11,9 +12,10 @@ namespace gsm {
 /// may wait, and the widget would wait with them.
 class UserActions {
  public:
-  /// `showAgain` makes all views of the window show their state anew. `loop` must outlive this.
-  UserActions(EventLoop& loop, std::function<void()> showAgain)
-      : loop_(loop), showAgain_(std::move(showAgain)) {}
+  /// `showAgain` makes all views of the window show their state anew. `loop` and `pointer` must
+  /// outlive this.
+  UserActions(EventLoop& loop, BusyPointer& pointer, std::function<void()> showAgain)
+      : loop_(loop), pointer_(pointer), showAgain_(std::move(showAgain)) {}
 
   /// Queues `action`, which tells whether the panel let it happen. A widget shows what its user did
   /// at once; when the panel doesn't let it happen (the control went out of reach meanwhile), the
@@ -24,8 +26,17 @@ class UserActions {
     });
   }
 
+  /// Likewise for what the user did on `widget`, which shows that something is going on meanwhile.
+  void post(QWidget& widget, std::function<bool()> action) const {
+    post([this, &widget, action = std::move(action)] {
+      const GoingOn goingOn(pointer_, widget);
+      return action();
+    });
+  }
+
  private:
   EventLoop& loop_;
+  BusyPointer& pointer_;
   const std::function<void()> showAgain_;
 };
 

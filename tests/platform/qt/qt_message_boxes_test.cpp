@@ -104,5 +104,43 @@ TEST_F(QtMessageBoxesTest, NestWhenAnEventUnderneathShowsAnother) {
   EXPECT_EQ(order, "inner outer");
 }
 
+// A handler that runs on top of the box keeps `show` from returning, and not the user from the
+// windows.
+TEST_F(QtMessageBoxesTest, AreDownAsSoonAsTheyHaveGoneFromTheScreen) {
+  whenUp([this] {
+    pressOk();
+    EXPECT_FALSE(boxes().isUp()) << "while the handler on top still runs";
+    settle();
+    EXPECT_FALSE(boxes().isUp());
+  });
+  boxes().show("text");
+  EXPECT_FALSE(boxes().isUp());
+}
+
+TEST_F(QtMessageBoxesTest, KeepTheOuterOneUpWhenTheInnerOneHasGone) {
+  whenUp([&] {
+    whenUp([&] {
+      pressOk();
+      EXPECT_TRUE(boxes().isUp()) << "the outer one is on view";
+    });
+    boxes().show("inner");
+    pressOk();
+    EXPECT_FALSE(boxes().isUp());
+  });
+  boxes().show("outer");
+}
+
+TEST_F(QtMessageBoxesTest, ShowNoBusyPointerWhileTheyWaitForTheirUser) {
+  QApplication::setOverrideCursor(Qt::BusyCursor);
+  whenUp([] {
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+    pressOk();
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::BusyCursor);
+  });
+  boxes().show("text");
+  QApplication::restoreOverrideCursor();
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
 }  // namespace
 }  // namespace gsm

@@ -1,0 +1,88 @@
+#include "ui/views/decorations.h"
+
+#include <QAbstractEventDispatcher>
+#include <QEvent>
+#include <QVariant>
+#include <algorithm>
+
+#include "ui/views/screen_text.h"
+
+namespace gsm {
+namespace {
+
+constexpr const char* kDeviceIsGone =
+    "The device is gone: it was unplugged or switched off. Plug it in, then click REFRESH.";
+
+std::vector<QLabel*> labelsNamed(const QWidget& form, const QString& names) {
+  std::vector<QLabel*> labels;
+  for (const QString& name : names.split(' ', Qt::SkipEmptyParts)) {
+    if (auto* label = form.findChild<QLabel*>(name)) labels.push_back(label);
+  }
+  return labels;
+}
+
+// The window stays as it is when one takes the place of the other.
+void keepRoom(QWidget& widget) {
+  QSizePolicy policy = widget.sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget.setSizePolicy(policy);
+}
+
+}  // namespace
+
+Decorations::Decorations(QWidget& form, const Platform& platform)
+    : QObject(&form), platform_(platform) {
+  for (QWidget* widget : form.findChildren<QWidget*>()) {
+    if (const QVariant name = widget->property("insteadOf"); name.isValid()) {
+      if (auto* place = form.findChild<QWidget*>(name.toString())) {
+        places_.push_back({place, widget});
+        place->installEventFilter(this);
+        keepRoom(*place);
+        keepRoom(*widget);
+        widget->setVisible(place->isHidden());
+      }
+    }
+    if (const QVariant names = widget->property("whileEmpty"); names.isValid()) {
+      hints_.push_back({widget, labelsNamed(form, names.toString())});
+      widget->hide();
+    }
+    if (widget->property("tellsOfDevice").toBool()) badges_.push_back(widget);
+  }
+  if (hints_.empty() && badges_.empty()) return;
+  connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+          [this] { look(); });
+}
+
+bool Decorations::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
+    for (const Place& place : places_) {
+      if (place.widget == watched) place.standIn->setVisible(place.widget->isHidden());
+    }
+  }
+  return false;
+}
+
+// Runs each time that the program is about to sleep.
+void Decorations::look() {
+  for (const Hint& hint : hints_) {
+    const bool empty = std::all_of(hint.labels.begin(), hint.labels.end(),
+                                   [](const QLabel* label) { return label->text().isEmpty(); });
+    const bool shown = !hint.widget->isHidden();
+    if (shown && !empty) hint.widget->hide();
+    if (!shown && empty && platform_.handlers.depth() == 0) hint.widget->show();
+  }
+  if (platform_.serialDevice.isGone() != deviceIsGone_) {
+    deviceIsGone_ = !deviceIsGone_;
+    showDevice();
+  }
+}
+
+void Decorations::showDevice() {
+  for (QWidget* badge : badges_) {
+    badge->setProperty("gone", deviceIsGone_);
+    badge->setToolTip(deviceIsGone_ ? kDeviceIsGone : QString());
+    polishAnew(*badge);
+  }
+}
+
+}  // namespace gsm
