@@ -83,7 +83,7 @@ class Bench {
     act([this] {
       panel_.form1.MSComm1.CommPort = 1;
       panel_.form1.MSComm1.PortOpen = true;
-      panel_.form1.exchange("AT+CLIP=1");
+      panel_.form1.modem.exchange("AT+CLIP=1");
       panel_.form1.Text1.clear();
     });
   }

@@ -44,7 +44,7 @@ class DataControl : public Control {
   RecordSet& Recordset();
 
   const std::string& databaseName() const { return databaseName_; }
-  const std::string& recordSource() const { return recordSource_; }
+  const std::string& recordSource() const { return RecordSource.text_; }
 
   void unloaded() override;
 

@@ -10,15 +10,15 @@ void Form1::showTime() { Label4.Caption = platform().clock.localTime().timeOfDay
 // The poll: takes the call prompt down when the call has gone, since no line says so when the
 // caller gives up silently. Nothing guards it against other handlers, and it clears nothing.
 void Form1::pollCall() try {
-  exchangeOnTop("AT+CIND?");
-  const Position key = Text1.position("+CIND:");
-  if (Text1.holds("ERROR")) Timer2.Enabled = false;
+  modem.exchangeOnTop("AT+CIND?");
+  const Position key = modem.position("+CIND:");
+  if (modem.holds("ERROR")) Timer2.Enabled = false;
   if (key == 0) return;
 
   // +CIND: 5,4,1,0,1,0,0 - the fifth field is the call's.
   constexpr int kCallField = 5;
   constexpr int kFieldsTaken = 6;
-  std::string fields = Text1.slice(key + 7, Text1.position("OK"));
+  std::string fields = modem.slice(key + 7, modem.position("OK"));
   std::string call;
   for (int field = 1; field <= kFieldsTaken; ++field) {
     const Position comma = position(",", fields);

@@ -34,14 +34,14 @@ Action method(void (Form1::*show)(Position)) {
 // The outcome of a change to the audio settings, on that window's status line.
 Action outcome(std::string_view success) {
   return [success](Form1& form, Form6& audio, Position) {
-    audio.Label7.Caption = form.Text1.holds("OK") ? std::string(success) : "UnSuccessFul.Try Again";
+    audio.Label7.Caption = form.modem.holds("OK") ? std::string(success) : "UnSuccessFul.Try Again";
   };
 }
 
 // The readers of the identity also take where "OK" stands.
 Action method(void (Form1::*show)(Position, Position)) {
   return
-      [show](Form1& form, Form6&, Position key) { (form.*show)(key, form.Text1.position("OK")); };
+      [show](Form1& form, Form6&, Position key) { (form.*show)(key, form.modem.position("OK")); };
 }
 
 Action method(void (Form1::*handle)()) {
@@ -51,7 +51,7 @@ Action method(void (Form1::*handle)()) {
 void showEchoValues(Form1& form, Form6&, Position key) { form.ShowEchoValues(std::to_string(key)); }
 
 void showServiceCenter(Form1& form, Form6&, Position) {
-  form.ShowServiceCenter(form.Text1.position("OK"), form.Text1.position("ERROR"));
+  form.ShowServiceCenter(form.modem.position("OK"), form.modem.position("ERROR"));
 }
 
 // The row of tests. Each looks at the transcript anew, so a test that clears it makes all tests
@@ -87,27 +87,28 @@ const std::vector<Test>& tests() {
   return row;
 }
 
+void route(Form1& form, Form6& audio) {
+  for (const Test& test : tests()) {
+    const auto branch =
+        std::find_if(test.branches.begin(), test.branches.end(),
+                     [&form](const Branch& each) { return form.modem.holds(each.key); });
+    if (branch == test.branches.end()) continue;
+    if (!test.alsoNeeds.empty() && !form.modem.holds(test.alsoNeeds)) continue;
+    branch->action(form, audio, form.modem.position(branch->key));
+    if (test.clearing == Clearing::whole) form.modem.clear();
+  }
+}
+
 }  // namespace
 
 void Form1::ProcessResponse(const std::string& text, bool marked) try {
   Text1.append((marked ? "--> " : "") + text);
-  Pause(2);
+  modem.pause(2);
   if (Text1.Text.empty()) return;
-  route();
+  route(*this, panel_.form6);
   Text1.SelStart = Text1.length();
 } catch (const RuntimeFailure&) {
   // Ends silently: the rest of the tests is skipped, and the transcript stays as it is.
-}
-
-void Form1::route() {
-  for (const Test& test : tests()) {
-    const auto branch = std::find_if(test.branches.begin(), test.branches.end(),
-                                     [this](const Branch& each) { return Text1.holds(each.key); });
-    if (branch == test.branches.end()) continue;
-    if (!test.alsoNeeds.empty() && !Text1.holds(test.alsoNeeds)) continue;
-    branch->action(*this, panel_.form6, Text1.position(branch->key));
-    if (test.clearing == Clearing::whole) Text1.clear();
-  }
 }
 
 }  // namespace gsm

@@ -12,8 +12,8 @@ constexpr int kNewsColour = 0xC0C0FF;  // a light red
 
 // +CLIP: "0146290800",129 - the number lies between the key's quote and the transcript's first
 // comma, so a comma further ahead gives a negative length.
-std::string callerNumber(const Transcript& transcript, Position key) {
-  return transcript.slice(key + 8, transcript.position(",") - key - 9);
+std::string callerNumber(const Conversation& modem, Position key) {
+  return modem.slice(key + 8, modem.position(",") - key - 9);
 }
 
 std::string lastCharacters(const std::string& text, std::size_t count) {
@@ -35,11 +35,11 @@ RecordSet* findCaller(Panel& panel, const std::string& number) {
 // CMTI: "SM",3
 void Form1::tellOfMessage(Position key) {
   panel_.form11.Show();
-  Pause(3);
+  modem.pause(3);
   Command3.BackColor = kNewsColour;
   panel_.form11.Hide();
   // Two characters, so a letter counts only at the very end of the transcript.
-  std::string index = Text1.slice(key + 11, 2);
+  std::string index = modem.slice(key + 11, 2);
   if (index == "A") index = "10";
   if (index == "B") index = "11";
   if (index == "C") index = "12";
@@ -48,7 +48,7 @@ void Form1::tellOfMessage(Position key) {
 
 // +CCWA: "0146290800",145,1
 void Form1::tellOfWaitingCall(Position key) {
-  const std::string number = callerNumber(Text1, key);
+  const std::string number = callerNumber(modem, key);
   RecordSet* const caller = findCaller(panel_, number);
   // Unlike at a ring, the prompt is up before the name is read, even where it can't be.
   panel_.form5.Show();
@@ -67,9 +67,9 @@ void Form1::tellOfBusy(Position) { panel_.form3.Label3.Caption = "Busy.Plz Disco
 
 // A ring without a number opens no prompt, but starts the poll all the same.
 void Form1::tellOfRing(Position) {
-  const Position clip = Text1.position("+CLIP:");
+  const Position clip = modem.position("+CLIP:");
   if (clip != 0) {
-    const std::string number = callerNumber(Text1, clip);
+    const std::string number = callerNumber(modem, clip);
     RecordSet* const caller = findCaller(panel_, number);
     const std::string words = caller == nullptr ? "Call Received-  " + number
                                                 : "Call Received From  " + caller->field("name");
@@ -81,7 +81,7 @@ void Form1::tellOfRing(Position) {
 
 // The time stamp of a status report is read and goes nowhere.
 void Form1::readStatusReport(Position key) {
-  const std::string report = Text1.slice(key + 6, 25);
+  const std::string report = modem.slice(key + 6, 25);
   const std::string stamp = gsm::slice(report, position("\"", report) + 1, 20);
   before("\"", stamp);
 }

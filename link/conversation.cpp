@@ -28,7 +28,7 @@ bool Conversation::holds(std::string_view key) const { return transcript_.holds(
 
 Position Conversation::position(std::string_view key) const { return transcript_.position(key); }
 
-std::string Conversation::slice(Position start, int length) const {
+std::string Conversation::slice(Position start, Position length) const {
   return transcript_.slice(start, length);
 }
 

@@ -47,7 +47,7 @@ class Conversation {
   /// Where `key` first stands; 0 when it doesn't.
   Position position(std::string_view key) const;
   /// As `gsm::slice` of the transcript.
-  std::string slice(Position start, int length) const;
+  std::string slice(Position start, Position length) const;
   Outcome outcome() const;
   void clear();
 

@@ -30,7 +30,7 @@ void Form10::sendCode() try {
 
 void Form10::sendPin() {
   if (!Text1.Text.empty()) {
-    panel_.form1.exchange("AT+CPIN=" + trim(Text1.Text.get()));
+    panel_.form1.modem.exchange("AT+CPIN=" + trim(Text1.Text.get()));
     Text1.Text = "";
   } else {
     platform().boxes.show("Enter Valid PIN Number", "GSM");
@@ -45,7 +45,7 @@ void Form10::sendPuk() {
   }
   Form1& form1 = panel_.form1;
   const int verdicts = form1.codeVerdicts();
-  form1.exchangeOnTop("AT+CPIN=" + trim(Text2.Text.get()) + "," + trim(Text1.Text.get()));
+  form1.modem.exchangeOnTop("AT+CPIN=" + trim(Text2.Text.get()) + "," + trim(Text1.Text.get()));
   Text1.Text = "";
   Text2.Text = "";
   // A code judged during the wait has set the prompts already: a refused PUK leaves the PIN form.

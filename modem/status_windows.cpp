@@ -15,7 +15,7 @@ Form20::Form20(Panel& panel)
 
 void Form20::comeUp() try {
   Show();
-  panel_.form1.Pause(3);
+  panel_.form1.modem.pause(3);
   Hide();
 } catch (const RuntimeFailure&) {
   // Ends silently: after a midnight within the three seconds the picture stays until the next tick.

@@ -27,12 +27,6 @@ class Form1 : public Window {
   /// or at once when that is zero or less. Fails with `overflow` when midnight passes.
   void Pause(float seconds) { modem.pause(seconds); }
 
-  void send(std::string_view command) { modem.send(command); }
-  void exchange(std::string_view command, float seconds = 1) { modem.exchange(command, seconds); }
-  void exchangeOnTop(std::string_view command, float seconds = 1) {
-    modem.exchangeOnTop(command, seconds);
-  }
-
   /// Everything that happens on the line: takes in what was received and routes it.
   void OnComm();
 
@@ -61,6 +55,9 @@ class Form1 : public Window {
 
   /// Shows the port's settings, number and state.
   void ShowPortStatus();
+
+  /// Saves the modem's profile when the port is open, and ends the program.
+  void endProgram();
 
   int PortsFound = 0;     // entries of Combo1
   int PortsToScan = 0;    // where the sweep stops
@@ -208,19 +205,6 @@ class Form1 : public Window {
   void Form_Unload() override;
 
  private:
-  // Start-up and the end.
-  void startFromFile();
-  void startFromLine(const std::string& line);
-  void startFromSavedPort(const std::string& line);
-  void buildPortList();
-  void logSearch();
-  void sweepPorts();
-  bool sweepSpeeds();
-  void endProgram();
-
-  // Routing.
-  void route();
-
   Panel& panel_;
   int runningStartUps_ = 0;  // on the handler stack now
   int codeVerdicts_ = 0;

@@ -4,6 +4,7 @@
 
 namespace gsm {
 
-Form7::Form7(Panel& panel) : Window(panel.platform, "Form7", {.Caption = "GSM-N/W", .Quiet = true}) {}
+Form7::Form7(Panel& panel)
+    : Window(panel.platform, "Form7", {.Caption = "GSM-N/W", .Quiet = true}) {}
 
 }  // namespace gsm

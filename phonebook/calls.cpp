@@ -11,8 +11,8 @@ namespace gsm {
 // Every key sends its tone, in a call or not, and what the modem says to it is thrown away.
 void Form3::pressKey(const std::string& key) try {
   Text1.Text = Text1.Text + key;
-  panel_.form1.exchange("AT+VTS=" + key);
-  panel_.form1.Text1.clear();
+  modem().exchange("AT+VTS=" + key);
+  modem().clear();
 } catch (const RuntimeFailure&) {
   // Ends silently.
 }
@@ -23,7 +23,7 @@ void Form3::dial() try {
     platform().boxes.show("Please Enter Correct Number To Dial", "GSM");
     return;
   }
-  panel_.form1.exchange("ATD" + Text1.Text + ";");  // the semicolon makes it a voice call
+  modem().exchange("ATD" + Text1.Text + ";");  // the semicolon makes it a voice call
   Label3.Caption = "Dialing...." + trim(Text1.Text.get());
   watchCall(OnError::ignored);
 } catch (const RuntimeFailure&) {
@@ -32,22 +32,22 @@ void Form3::dial() try {
 
 // "Redial": the modem remembers the number, and says it behind the echo and a line end.
 void Form3::redial() try {
-  Transcript& transcript = panel_.form1.Text1;
-  panel_.form1.exchange("ATDL");
-  const std::string number = transcript.slice(8, transcript.position(";") - 8);
+  Conversation& talk = modem();
+  modem().exchange("ATDL");
+  const std::string number = talk.slice(8, talk.position(";") - 8);
   Label3.Caption = "Redialing " + number;
   Text1.Text = number;
   watchCall(OnError::shown);
-  transcript.clear();
+  talk.clear();
 } catch (const RuntimeFailure&) {
   // Ends silently.
 }
 
 // "HangUp".
 void Form3::hangUp() try {
-  panel_.form1.exchange("ATH");
+  modem().exchange("ATH");
   Label3.Caption = "DisConnected ";
-  panel_.form1.Text1.clear();
+  modem().clear();
   Text1.Text = "";
 } catch (const RuntimeFailure&) {
   // Ends silently.
@@ -56,20 +56,20 @@ void Form3::hangUp() try {
 // Nine looks at the transcript, two seconds apart, of which none is spared: the first word that
 // stands there tells the state, and the dispatcher may write another in between.
 void Form3::watchCall(OnError onError) {
-  const Transcript& transcript = panel_.form1.Text1;
+  const Conversation& talk = modem();
   for (int pass = 1; pass != 10; ++pass) {
-    if (transcript.holds("OK")) {
+    if (talk.holds("OK")) {
       Label3.Caption = "Connected SuccessFully-" + Text1.Text;
-    } else if (transcript.holds("NO ANSWER")) {
+    } else if (talk.holds("NO ANSWER")) {
       Label3.Caption = "NO ANSWER.Plz Disconnect";
-    } else if (transcript.holds("NO CARRIER")) {
+    } else if (talk.holds("NO CARRIER")) {
       Label3.Caption = "No Carrier.Plz Disconnect";
-    } else if (transcript.holds("BUSY")) {
+    } else if (talk.holds("BUSY")) {
       Label3.Caption = "Busy.Plz Disconnect";
-    } else if (onError == OnError::shown && transcript.holds("ERROR")) {
+    } else if (onError == OnError::shown && talk.holds("ERROR")) {
       Label3.Caption = "Error Occurred.Plz Disconnect";
     }
-    panel_.form1.Pause(2);
+    modem().pause(2);
   }
 }
 

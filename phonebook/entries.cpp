@@ -36,8 +36,8 @@ void Form3::deleteEntry() try {
     platform().boxes.show("Select the Number To Delete In PhoneBook", "GSM");
     return;
   }
-  panel_.form1.exchange("AT+CPBW=" + oneLine(index));
-  if (!panel_.form1.Text1.holds("OK")) {
+  modem().exchange("AT+CPBW=" + oneLine(index));
+  if (!modem().holds("OK")) {
     platform().boxes.show("Error Occurred.Try Again", "GSM");
     return;
   }
@@ -58,10 +58,10 @@ void Form3::deleteEntry() try {
 // "Reload PhoneBook". The whole download runs within the wait.
 void Form3::reload() try {
   List1.Clear();
-  panel_.form1.Text1.clear();
-  panel_.form1.send("AT+CPBS?");
+  modem().clear();
+  modem().send("AT+CPBS?");
   Label3.Caption = "Please Wait.......";
-  panel_.form1.Pause(1);
+  modem().pause(1);
   Label3.Caption = "";
 } catch (const RuntimeFailure&) {
   // Ends silently.

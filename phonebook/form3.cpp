@@ -30,7 +30,7 @@ void Form3::Form_Load() {
   Data1.Refresh();
   RecordSet& entries = Data1.Recordset();
   if (entries.isEof() || entries.isBof()) {
-    panel_.form1.exchange("AT+CPBS?");  // its reply is routed to the download during the wait
+    modem().exchange("AT+CPBS?");  // its reply is routed to the download during the wait
   } else {
     for (entries.MoveFirst(); !entries.isEof(); entries.MoveNext()) {
       addRow(entries.field("Index"), entries.field("Number"), entries.field("Name"));

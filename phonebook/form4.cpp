@@ -42,10 +42,10 @@ void Form4::addEntry() try {
   const std::int64_t location = used + 1;
   const std::string phone = Text1.Text + Text2.Text.get() + Text3.Text.get();
   Form1& form1 = panel_.form1;
-  form1.exchange("AT+CPBW=" + std::to_string(location) + "," + phone + ",,\" " + Text4.Text.get() +
-                 "\"");
+  form1.modem.exchange("AT+CPBW=" + std::to_string(location) + "," + phone + ",,\" " +
+                       Text4.Text.get() + "\"");
   // The position as a text is never empty ("0" where there is no "OK"), so every reply passes.
-  const std::string okPosition = std::to_string(form1.Text1.position("OK"));
+  const std::string okPosition = std::to_string(form1.modem.position("OK"));
   if (!okPosition.empty()) {
     recordEntry(location, phone);
   } else {

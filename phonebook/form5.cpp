@@ -17,15 +17,15 @@ Form5::Form5(Panel& panel)
 
 // The window stays, so that the call can be ended from it.
 void Form5::answer() try {
-  panel_.form1.exchangeOnTop("ATA");
-  panel_.form1.Text1.clear();
+  panel_.form1.modem.exchangeOnTop("ATA");
+  panel_.form1.modem.clear();
 } catch (const RuntimeFailure&) {
   // Ends silently.
 }
 
 void Form5::hangUp() try {
-  panel_.form1.exchange("ATH");
-  panel_.form1.Text1.clear();
+  panel_.form1.modem.exchange("ATH");
+  panel_.form1.modem.clear();
   Hide();
 } catch (const RuntimeFailure&) {
   // Ends silently.

@@ -23,7 +23,6 @@ Form9::Form9(Panel& panel) : FeatureWindow(panel, "Form9", {.Caption = "GSM-SECU
 }
 
 void Form9::Form_Load() {
-  platform().files.changeToProgramFolder();
   showPage({&Frame2, &Frame3, &Frame4}, Frame2);
   readStatus();
 }

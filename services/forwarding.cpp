@@ -66,7 +66,6 @@ const ForwardReason& row(int reason) { return kReasons.at(static_cast<std::size_
 
 // The window is up while it reads; each reply must have the transcript for itself.
 void Form12::Form_Load() try {
-  platform().files.changeToProgramFolder();
   for (Frame* frame : {&Frame9, &Frame5, &Frame10}) frame->Visible = false;
   Frame13.Visible = true;
   for (const ForwardReason& reason : kReasons) (this->*reason.state).Caption = "";

@@ -26,7 +26,6 @@ Form8::Form8(Panel& panel)
 }
 
 void Form8::Form_Load() {
-  platform().files.changeToProgramFolder();
   Combo1.Clear();
   Combo2.Clear();
   // A store may have more entries; the window offers no way to them.

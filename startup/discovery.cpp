@@ -1,5 +1,4 @@
-#include <array>
-
+#include "link/speeds.h"
 #include "modem/identity.h"
 #include "panel/form1.h"
 #include "panel/form7.h"
@@ -9,12 +8,25 @@
 namespace gsm {
 namespace {
 
-// From the slowest up.
-constexpr std::array kSpeeds = {"300,n,8,1",   "600,n,8,1",   "1200,n,8,1",  "2400,n,8,1",
-                                "4800,n,8,1",  "9600,n,8,1",  "19200,n,8,1", "38400,n,8,1",
-                                "57600,n,8,1", "115200,n,8,1"};
-
 std::string successor(const std::string& count) { return std::to_string(wholeNumber(count) + 1); }
+
+// Tries the speeds on the current port. Whether a modem has answered; then the port stays open.
+bool sweepSpeeds(Form1& form) {
+  for (const char* const baud : kSpeeds) {
+    const std::string speed = std::string(baud) + ",n,8,1";
+    if (!form.MSComm1.PortOpen) form.MSComm1.PortOpen = true;
+    form.MSComm1.Settings = speed;
+    if (std::string(form.MSComm1.Settings) == speed) {
+      form.modem.exchange("AT+CGSN");
+      if (form.modem.holds("OK")) {
+        form.MSComm1.Settings = speed;
+        return true;
+      }
+    }
+    form.MSComm1.PortOpen = false;
+  }
+  return false;
+}
 
 }  // namespace
 
@@ -34,11 +46,11 @@ void Form1::ScanForModem() {
       Combo1.ListIndex = wholeNumber(PortIndex);
       MSComm1.CommPort = wholeNumber(Combo1.Text.get());
       Label5.Caption = "Scanning Port  " + Combo1.Text;
-      if (sweepSpeeds()) {
-        takeImei(panel_, Text1.position("AT+CGSN"));
+      if (sweepSpeeds(*this)) {
+        takeImei(panel_, modem.position("AT+CGSN"));
         ShowPortStatus();
         AcceptPort();
-        Text1.clear();
+        modem.clear();
         return;
       }
       PortIndex = successor(PortIndex);
@@ -58,23 +70,6 @@ void Form1::ScanForModem() {
     description.clear();  // the sweep behind it has used the description up: the box stays blank
   }
   platform().boxes.show(description);
-}
-
-// Tries the speeds on the current port. Whether a modem has answered; then the port stays open.
-bool Form1::sweepSpeeds() {
-  for (const std::string speed : kSpeeds) {
-    if (!MSComm1.PortOpen) MSComm1.PortOpen = true;
-    MSComm1.Settings = speed;
-    if (std::string(MSComm1.Settings) == speed) {
-      exchange("AT+CGSN");
-      if (Text1.holds("OK")) {
-        MSComm1.Settings = speed;
-        return true;
-      }
-    }
-    MSComm1.PortOpen = false;
-  }
-  return false;
 }
 
 void Form1::AcceptPort() try {

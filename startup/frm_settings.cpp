@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "link/speeds.h"
 #include "link/text.h"
 #include "panel/form1.h"
 #include "panel/panel.h"
@@ -10,8 +11,6 @@
 namespace gsm {
 namespace {
 
-constexpr std::array kSpeeds = {"300",  "600",   "1200",  "2400",  "4800",
-                                "9600", "19200", "38400", "57600", "115200"};
 constexpr std::array kParityLetters = {"E", "O", "N"};
 constexpr int kOk = 0;
 

@@ -15,17 +15,17 @@ void probeChosenPort(Form1& form, Panel& panel) {
 
   form.ShowPortStatus();
   form.Show();
-  form.exchange("AT+CGSN");
-  if (!form.Text1.holds("OK")) {
+  form.modem.exchange("AT+CGSN");
+  if (!form.modem.holds("OK")) {
     form.Label5.Caption = "Check If Modem Is Connected Properly";
     form.List1.AddItem("Check If Modem Is Connected Properly.");
     return;
   }
   form.MSComm1.Settings = form.Label3.Caption.get();
-  takeImei(panel, form.Text1.position("AT+CGSN"));
+  takeImei(panel, form.modem.position("AT+CGSN"));
   form.ShowPortStatus();
   form.AcceptPort();
-  form.Text1.clear();
+  form.modem.clear();
 }
 
 }  // namespace

@@ -4,6 +4,9 @@
 #include "panel/form1.h"
 #include "phonebook/form3.h"
 #include "phonebook/form4.h"
+#include "security/form9.h"
+#include "services/form12.h"
+#include "sms/form8.h"
 
 namespace gsm {
 namespace {
@@ -36,6 +39,56 @@ void askForPuk(Panel& panel) {
   panel.form10.Text2.Text = "12345678";
 }
 
+void addressMessage(Panel& panel) { panel.form8.Text1.Text = "0261914728"; }
+void chooseBroadcast(Panel& panel) { panel.form8.Option1.Value = true; }
+void chooseReports(Panel& panel) { panel.form8.Option3.Value = true; }
+
+// The window's own load reads for as long.
+const std::vector<float> kSixReasons = {3, 3, 3, 3, 3, 3};
+
+void chooseForwarding(Panel& panel) {
+  panel.form12.Option1.Value = true;
+  panel.form12.Option8.Value = true;
+}
+void showBarring(Panel& panel) { panel.form12.Frame9.Visible = true; }
+void chooseBarring(Panel& panel) {
+  Form12& window = panel.form12;
+  window.Frame5.Visible = true;
+  window.Option17.Value = true;
+  window.Option23.Value = true;
+  window.Option24.Value = true;
+  window.Text2.Text = "0000";
+}
+void chooseWaiting(Panel& panel) {
+  panel.form12.Frame10.Visible = true;
+  panel.form12.Option29.Value = true;
+}
+void chooseUserGroup(Panel& panel) {
+  Form12& window = panel.form12;
+  window.Frame12.Visible = true;
+  for (ComboBox* combo : {&window.Combo1, &window.Combo2, &window.Combo3}) combo->Text = "1";
+}
+
+void showSimPage(Panel& panel) { panel.form9.Frame3.Visible = true; }
+void showNetworkPage(Panel& panel) { panel.form9.Frame4.Visible = true; }
+void choosePhoneLock(Panel& panel) {
+  panel.form9.Option1.Value = true;
+  panel.form9.Text1.Text = "12345678";
+}
+void chooseSimLock(Panel& panel) {
+  showSimPage(panel);
+  panel.form9.Option4.Value = true;
+}
+void chooseNetworkLock(Panel& panel) {
+  showNetworkPage(panel);
+  panel.form9.Option7.Value = true;
+  panel.form9.Text7.Text = "12345678";
+}
+void enterPhonePasswords(Panel& panel) {
+  panel.form9.Text2.Text = "12345678";
+  panel.form9.Text3.Text = "87654321";
+}
+
 std::vector<HandlerRow> makeHandlers() {
   std::vector<HandlerRow> rows = {
       {"Signal", "Form1", "Label8", Trap::silent, true, {1}},
@@ -62,6 +115,41 @@ std::vector<HandlerRow> makeHandlers() {
       {"RefuseCall", "Form5", "Command2", Trap::silent, true, {1}},
       {"SendPin", "Form10", "Command1", Trap::silent, true, {1}, askForPin},
       {"SendPuk", "Form10", "Command1", Trap::silent, true, {1}, askForPuk},
+      {"SendMessage", "Form8", "Command1", Trap::silent, true, {1, 6}, addressMessage},
+      {"SaveMessage", "Form8", "Command2", Trap::silent, true, {1, 3}, addressMessage},
+      {"ReadMessage", "Form8", "Command3", Trap::silent, true, {1}},
+      {"DeleteMessage", "Form8", "Command4", Trap::silent, true, {1}},
+      {"ShowOutbox", "Form8", "Command5", Trap::silent, false, {}},
+      {"ListNamesWithoutABook", "Form8", "Command6", Trap::silent, false, {}},
+      {"ClearMessage", "Form8", "Command7", Trap::silent, false, {}},
+      {"SignalBesideMessages", "Form8", "Label7", Trap::silent, true, {1}},
+      {"SwitchBroadcast", "Form8", "Command8", Trap::silent, true, {1}, chooseBroadcast},
+      {"SwitchReports", "Form8", "Command9", Trap::silent, true, {1, 1}, chooseReports},
+      {"ChangeForwarding", "Form12", "Command1", Trap::silent, true, {3}, chooseForwarding},
+      {"RefreshForwarding", "Form12", "Command2", Trap::silent, true, kSixReasons},
+      {"PageOfForwarding", "Form12", "TabStrip1", Trap::silent, true, kSixReasons},
+      {"OpenBarringChange", "Form12", "Command4", Trap::silent, false, {}, showBarring},
+      {"ChangeBarring", "Form12", "Command3", Trap::silent, true, {4}, chooseBarring},
+      {"OpenWaitingChange", "Form12", "Command5", Trap::silent, false, {}, chooseWaiting},
+      {"ChangeWaiting", "Form12", "Command6", Trap::silent, true, {3}, chooseWaiting},
+      {"ChangeUserGroup", "Form12", "Command7", Trap::silent, true, {1}, chooseUserGroup},
+      {"SignalBesideServices", "Form12", "Command8", Trap::silent, true, {1}},
+      {"PageOfThePhoneLock", "Form9", "TabStrip1", Trap::silent, false, {}},
+      {"RefreshLocks", "Form9", "Command10", Trap::silent, true, {1}},
+      {"SignalBesideLocks", "Form9", "Command11", Trap::silent, true, {1}},
+      {"PreparePhoneLock", "Form9", "Command2", Trap::silent, false, {}},
+      {"PrepareSimLock", "Form9", "Command4", Trap::silent, false, {}, showSimPage},
+      {"PrepareNetworkLock", "Form9", "Command7", Trap::silent, false, {}, showNetworkPage},
+      {"OpenPhoneLock", "Form9", "Option1", Trap::silent, false, {}},
+      {"OpenPhonePasswords", "Form9", "Option3", Trap::silent, false, {}},
+      {"OpenSimPasswords", "Form9", "Option6", Trap::silent, false, {}, showSimPage},
+      {"OpenNetworkPasswords", "Form9", "Option9", Trap::silent, false, {}, showNetworkPage},
+      {"LockPhone", "Form9", "Command1", Trap::silent, true, {1}, choosePhoneLock},
+      {"LockSim", "Form9", "Command5", Trap::silent, true, {1}, chooseSimLock},
+      {"LockNetwork", "Form9", "Command8", Trap::silent, true, {1}, chooseNetworkLock},
+      {"ChangePhonePassword", "Form9", "Command3", Trap::silent, true, {1}, enterPhonePasswords},
+      {"ChangeSimPin", "Form9", "Command6", Trap::silent, true, {1}, showSimPage},
+      {"ChangeNetworkPassword", "Form9", "Command9", Trap::silent, true, {1}, showNetworkPage},
   };
   return rows;
 }

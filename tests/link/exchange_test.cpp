@@ -34,7 +34,7 @@ TEST_F(Exchange, ThePortBeginsWithItsDesignValuesAndReadyForReceiveEvents) {
 
 TEST_F(Exchange, ClearsTheTranscriptAndWritesTheCommandWithACarriageReturnAlone) {
   leaveInTranscript("old");
-  inPanel([this] { form1().exchange("AT+CGSN"); });
+  inPanel([this] { form1().modem.exchange("AT+CGSN"); });
   run(0);
   EXPECT_EQ(transcript(), "");
   EXPECT_EQ(sent(), Texts{"AT+CGSN\r"});
@@ -42,7 +42,7 @@ TEST_F(Exchange, ClearsTheTranscriptAndWritesTheCommandWithACarriageReturnAlone)
 
 TEST_F(Exchange, OnTopKeepsWhatTheTranscriptHolds) {
   leaveInTranscript("old");
-  inPanel([this] { form1().exchangeOnTop("AT+ICF?"); });
+  inPanel([this] { form1().modem.exchangeOnTop("AT+ICF?"); });
   run(0);
   EXPECT_EQ(transcript(), "old");
   EXPECT_EQ(sent(), Texts{"AT+ICF?\r"});
@@ -52,7 +52,7 @@ TEST_F(Exchange, ReadsTheEchoAndTheReplyAsTheyCame) {
   reply("AT+CGSN", kImeiReply);
   std::string read;
   inPanel([&] {
-    form1().exchange("AT+CGSN");
+    form1().modem.exchange("AT+CGSN");
     read = form1().Text1.Text.get();
   });
   settle();
@@ -109,7 +109,7 @@ TEST_F(Exchange, LeavesTheCaretWhereTheTranscriptIsEmptyAfterTheWait) {
 
 TEST_F(Exchange, OfASendEventCostsTwoSecondsAndRoutesTheOldTranscriptAnew) {
   leaveInTranscript("+CSQ: 15,99\r\n");
-  inPanel([this] { form1().send("AT"); });
+  inPanel([this] { form1().modem.send("AT"); });
   const double lineTime = 3 * 10 / 9600.0;
   run(lineTime + 0.001);
   EXPECT_EQ(waiting(), 1);
@@ -122,7 +122,7 @@ TEST_F(Exchange, OfASendEventCostsTwoSecondsAndRoutesTheOldTranscriptAnew) {
 }
 
 TEST_F(Exchange, OfASendEventThatFindsNoTextEndsAfterItsTwoSeconds) {
-  inPanel([this] { form1().send("AT"); });
+  inPanel([this] { form1().modem.send("AT"); });
   settle();
   EXPECT_NEAR(now(), 2 + 3 * 10 / 9600.0, 0.002);
   EXPECT_EQ(transcript(), "");
@@ -147,7 +147,7 @@ TEST_F(Exchange, ShowsAResponseBetweenTwoLinesBehindTheOldText) {
 TEST_F(Exchange, WithAClosedPortEndsTheProgramWhereNothingTrapsTheFailure) {
   inPanel([this] {
     form1().MSComm1.PortOpen = false;
-    form1().exchange("AT");
+    form1().modem.exchange("AT");
   });
   settle();
   EXPECT_EQ(boxes(), Texts{"Operation valid only when the port is open"});

@@ -18,7 +18,7 @@ class Reentrancy : public OpenPortTest {
   // A handler that sends a command now, and notes when it goes on and what it then reads.
   void exchanging(const std::string& command) {
     inPanel([this, command] {
-      form1().exchange(command);
+      form1().modem.exchange(command);
       ends_.push_back(now());
       reads_.push_back(form1().Text1.Text.get());
     });
@@ -160,7 +160,7 @@ TEST_F(Reentrancy, ASecondCommandGoesOutWhileTheFirstOneWaitsAndTheRepliesMix) {
   exchanging("AT");
   run(0.5);
   inPanel([this] {
-    form1().exchangeOnTop("AT+CMEE=0");
+    form1().modem.exchangeOnTop("AT+CMEE=0");
     reads_.push_back(form1().Text1.Text.get());
   });
   settle();

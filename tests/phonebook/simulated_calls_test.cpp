@@ -17,8 +17,8 @@ class SimulatedCalls : public SimulatedBookTest {
     ASSERT_EQ(rows().size(), 8U);
     inPanel([this] {
       calls().userClose();
-      form1().send("AT+CLIP=1");
-      form1().send("AT+CCWA=1,1,1");
+      form1().modem.send("AT+CLIP=1");
+      form1().modem.send("AT+CCWA=1,1,1");
     });
     settle();
     clearTranscript();
@@ -149,7 +149,7 @@ TEST_F(SimulatedCalls, AreRejectedByThePromptsButton) {
 }
 
 TEST_F(SimulatedCalls, AnsweredByTheModemItselfKeepThePrompt) {
-  inPanel([this] { form1().send("ATS0=1"); });
+  inPanel([this] { form1().modem.send("ATS0=1"); });
   settle();
   clearTranscript();
   ring(kAnna);

@@ -187,7 +187,7 @@ TEST_F(Sweep, LetsTheUserLookAtTheSignalMeanwhile) {
 TEST_F(Sweep, TakesTheReplyToTheUsersCommandForTheModem) {
   startSweep({.modemSpeed = 300});
   run(0.5);
-  inPanel([this] { form1().send("AT+CMEE=0"); });
+  inPanel([this] { form1().modem.send("AT+CMEE=0"); });
   reply("AT+CMEE=0", kOk);
   settle();
   EXPECT_EQ(portSettings(), "300,N,8,1");

@@ -116,7 +116,7 @@ TEST_F(RingToPrompt, OnTheSimulatedModemsLineLastsAsLongAsTheLineAndTheWait) {
   auto modem = std::make_unique<SimulatedModem>(machine().time, machine().line,
                                                 simulator::ModemOptions{.speed = 9600});
   inPanel([this] {
-    form1().exchange("AT+CLIP=1");
+    form1().modem.exchange("AT+CLIP=1");
     form1().Text1.clear();
   });
   settle();

@@ -150,7 +150,7 @@ void SimulatedWeek::useCardElsewhere() {
   }
   const int location = gone->first;
   inPanel([this, location] {
-    form1().exchange("AT+CPBW=" + std::to_string(location));
+    form1().modem.exchange("AT+CPBW=" + std::to_string(location));
     form1().Text1.clear();
   });
   settle();
