@@ -2,9 +2,6 @@
 // is a failure, in bounded time and memory. The first byte decides where the file comes from: the
 // others are the file, or they spoil a sound one, three of them a byte.
 
-#include <sqlite3.h>
-
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <fstream>
@@ -25,30 +22,29 @@ namespace fs = std::filesystem;
 
 // Sound files of small pages, so that the fuzzer has few bytes to think about. Each is there for a
 // kind of page or of text that the others lack.
-constexpr std::array kSeeds = {
-    "create table DATA (\"Index\" text, Number text, Name text);"
-    "create table Details (TotalIndex text, UsedIndex text);",
-    "create table DATA (\"Index\" text, Number text, Name text);"
-    "create table Details (TotalIndex text, UsedIndex text);"
-    "insert into DATA values ('1', '0146290800', 'ALICE'), ('2', '112', 'HELP');"
-    "insert into Details values ('100', '2');",
+using Statements = std::vector<std::string>;
+
+const std::string kEntries = "create table DATA (\"Index\" text, Number text, Name text)";
+const std::string kCounts = "create table Details (TotalIndex text, UsedIndex text)";
+const std::string kAlice = "insert into DATA values ('1', '0146290800', 'ALICE')";
+
+const std::vector<Statements> kSeeds = {
+    {kEntries, kCounts},
+    {kEntries, kCounts, kAlice, "insert into Details values ('100', '1')"},
     // A tree of two levels.
-    "create table DATA (\"Index\" text, Number text, Name text);"
-    "with recursive n(x) as (select 1 union all select x+1 from n where x<60) "
-    "insert into DATA select x, '0' || (140000000+x), 'NAME ' || x from n;",
+    {kEntries,
+     "with recursive n(x) as (select 1 union all select x+1 from n where x<60) "
+     "insert into DATA select x, '0' || (140000000+x), 'NAME ' || x from n"},
     // A text that goes on over several pages, numbers, bytes, nothing.
-    "create table DATA (\"Index\" integer, Number, Name blob);"
-    "insert into DATA values (1, 1.5, hex(zeroblob(900))), (2, x'00FF', null);",
+    {"create table DATA (\"Index\" integer, Number, Name blob)",
+     "insert into DATA values (1, 1.5, hex(zeroblob(900))), (2, x'00FF', null)"},
     // Two bytes a character.
-    "pragma encoding='UTF-16le'; create table DATA (\"Index\" text, Number text, Name text);"
-    "insert into DATA values ('1', '0146290800', 'ALICE');",
+    {"pragma encoding='UTF-16le'", kEntries, kAlice},
     // What the panel refuses to run, and an index that a change must keep up.
-    "create table DATA (\"Index\" text, Number text, Name text check (length(Name) < 50));"
-    "create index byTail on DATA (substr(Number, -10));"
-    "create table Details (TotalIndex text, UsedIndex text);"
-    "create view Everything as select * from DATA;"
-    "create trigger T after insert on DATA begin delete from Details; end;"
-    "insert into DATA values ('1', '0146290800', 'ALICE');",
+    {"create table DATA (\"Index\" text, Number text, Name text check (length(Name) < 50))",
+     "create index byTail on DATA (substr(Number, -10))", kCounts,
+     "create view Everything as select * from DATA",
+     "create trigger T after insert on DATA begin delete from Details; end", kAlice},
 };
 
 std::string bytesOf(const fs::path& file) {
@@ -56,19 +52,15 @@ std::string bytesOf(const fs::path& file) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-std::string seed(const fs::path& file, const char* statements) {
-  fs::remove(file);
-  sqlite3* handle = nullptr;
-  mustHold(sqlite3_open(file.c_str(), &handle) == SQLITE_OK);
-  const std::string all = std::string("pragma page_size=512;") + statements;
-  mustHold(sqlite3_exec(handle, all.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK);
-  sqlite3_close(handle);
-  return bytesOf(file);
-}
-
 std::vector<std::string> seeds(const fs::path& file) {
   std::vector<std::string> bytes;
-  for (const char* statements : kSeeds) bytes.push_back(seed(file, statements));
+  for (const Statements& statements : kSeeds) {
+    std::ofstream(file, std::ios::trunc).close();  // an empty file is an empty database
+    const auto book = SqliteEngine().OpenDatabase(file);
+    book->Execute("pragma page_size=512");
+    for (const std::string& each : statements) book->Execute(each);
+    bytes.push_back(bytesOf(file));
+  }
   return bytes;
 }
 

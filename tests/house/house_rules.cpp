@@ -197,7 +197,7 @@ std::vector<Rule> makeRules() {
        in("app/a.h", {"int QUEUE;", "AQString();", "Query q;"})},
 
       {"Databases",
-       banned(R"(#include\s*<sqlite|\bsqlite3?_\w+|"\s*(SELECT|INSERT INTO|UPDATE|DELETE FROM)\b)",
+       banned(R"(#include\s*<sqlite|\bsqlite3_\w+|"\s*(SELECT|INSERT INTO|UPDATE|DELETE FROM)\b)",
               isPure, "SQL is banned here, use the database of platform/"),
        in("phonebook/a.cpp", {"#include <sqlite3.h>", "sqlite3_open(name, &db);",
                               "run(\"SELECT * FROM DATA\");", "run(\"DELETE FROM DATA\");"}),

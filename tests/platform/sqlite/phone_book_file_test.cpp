@@ -1,6 +1,7 @@
 #include "platform/sqlite/phone_book_file.h"
 
 #include <csignal>
+#include <fstream>
 #include <set>
 
 #include "platform/runtime_failure.h"
@@ -93,6 +94,15 @@ TEST(PhoneBookFile, WhatComesUnderItsNameWhileItIsMadeStays) {
     EXPECT_EQ(folder.read(other), "somebody's entries");
     EXPECT_EQ(filesIn(folder), std::set<std::string>{other});
   }
+}
+
+TEST(PhoneBookFile, TheLastMoveReplacesNothing) {
+  const TemporaryFolder folder;
+  UnfinishedFile unfinished(folder.path() / "book.mdb");
+  std::ofstream(unfinished.path()) << "new";
+  folder.write("book.mdb", "somebody's entries");
+  EXPECT_EQ(failureOf([&] { unfinished.finish(); }).number, 3204);
+  EXPECT_EQ(folder.read("book.mdb"), "somebody's entries");
 }
 
 TEST(PhoneBookFile, OneThatCannotBeFilledIsNotThere) {
