@@ -11,12 +11,12 @@
 #include "platform/posix/posix_port_probe.h"
 #include "platform/posix/telling_device.h"
 #include "platform/posix/uucp_lock.h"
-#include "platform/qt/qt_clock.h"
+#include "platform/posix/machine_clock.h"
 #include "platform/qt/qt_event_loop.h"
 #include "platform/qt/qt_message_boxes.h"
-#include "platform/qt/qt_program.h"
+#include "platform/posix/posix_program.h"
 #include "platform/qt/qt_serial_device.h"
-#include "platform/qt/qt_settings_store.h"
+#include "platform/posix/ini_settings_store.h"
 #include "platform/sqlite/sqlite_engine.h"
 #include "platform/sqlite/telling_engine.h"
 
@@ -42,7 +42,7 @@ class Desktop {
   [[noreturn]] void run();
 
  private:
-  QtClock clock_;
+  MachineClock clock_;
   QtEventLoop loop_;
   QtMessageBoxes boxes_;
   Files files_;
@@ -51,10 +51,10 @@ class Desktop {
   PosixPortProbe ports_;
   QtSerialDevice serialPort_;
   TellingDevice serialDevice_;
-  QtSettingsStore settings_;
+  IniSettingsStore settings_;
   SqliteEngine sqlite_;
   TellingEngine database_;
-  QtProgram program_;
+  PosixProgram program_;
   HandlerStack handlers_;
   std::vector<Window*> windows_;
   Platform platform_;

@@ -26,7 +26,7 @@ milliseconds forTimer(Duration realTime) {
 // when its turn has come, so that at most one of it waits in the queue.
 class Recurrence : public std::enable_shared_from_this<Recurrence> {
  public:
-  Recurrence(const QtClock& clock, EventLoop& loop, Duration interval, EventLoop::Event event)
+  Recurrence(const MachineClock& clock, EventLoop& loop, Duration interval, EventLoop::Event event)
       : clock_(clock), loop_(loop), interval_(interval), event_(std::move(event)) {
     alarm_.setTimerType(Qt::PreciseTimer);
     alarm_.setSingleShot(true);
@@ -56,7 +56,7 @@ class Recurrence : public std::enable_shared_from_this<Recurrence> {
     event_();  // may end the recurrence, which lives until it returns
   }
 
-  const QtClock& clock_;
+  const MachineClock& clock_;
   EventLoop& loop_;
   const Duration interval_;
   const EventLoop::Event event_;
@@ -81,7 +81,7 @@ class QtRepetition : public Repetition {
 
 }  // namespace
 
-QtEventLoop::QtEventLoop(const QtClock& clock) : clock_(clock) {
+QtEventLoop::QtEventLoop(const MachineClock& clock) : clock_(clock) {
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
           [this] {
             if (!queue_.empty()) QCoreApplication::postEvent(this, new QEvent(kLookAtQueue));

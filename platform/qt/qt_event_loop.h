@@ -7,7 +7,7 @@
 #include <optional>
 
 #include "platform/event_loop.h"
-#include "platform/qt/qt_clock.h"
+#include "platform/posix/machine_clock.h"
 
 namespace gsm {
 
@@ -20,7 +20,7 @@ namespace gsm {
 class QtEventLoop : public QObject, public EventLoop {
  public:
   /// Needs Qt's application object. `clock` must outlive the loop.
-  explicit QtEventLoop(const QtClock& clock);
+  explicit QtEventLoop(const MachineClock& clock);
 
   void post(Event event) override;
   void pass(std::optional<Instant> until = std::nullopt) override;
@@ -37,7 +37,7 @@ class QtEventLoop : public QObject, public EventLoop {
   void runWaiting();
   void sleep(std::optional<Instant> until);
 
-  const QtClock& clock_;
+  const MachineClock& clock_;
   std::deque<Waiting> queue_;
   std::uint64_t posted_ = 0;
 };
