@@ -68,6 +68,7 @@ int main(int count, char** arguments) {
   gsm::Windows windows(desktop.platform());
   gsm::Binder screen(desktop.platform().loop);
   screen.bind(desktop.platform().windows);
+  desktop.endBy([&windows] { gsm::end(windows.panel); });
   gsm::start(windows.panel);
   desktop.run();
 }

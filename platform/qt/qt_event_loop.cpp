@@ -97,12 +97,23 @@ bool QtEventLoop::event(QEvent* event) {
 }
 
 void QtEventLoop::pass(std::optional<Instant> until) {
-  if (queue_.empty()) {
+  if (serve_) {
+    passWithoutScreen(until);
+  } else if (queue_.empty()) {
     sleep(until);
   } else {
     QCoreApplication::processEvents();
     runWaiting();
   }
+}
+
+void QtEventLoop::passWithoutScreen(std::optional<Instant> until) {
+  constexpr Duration kLongest = milliseconds(20);  // what comes meanwhile isn't noticed
+  if (queue_.empty()) {
+    const Duration left = until ? clock_.realTime(*until - clock_.now()) : kLongest;
+    serve_(std::clamp(left, Duration::zero(), kLongest));
+  }
+  runWaiting();
 }
 
 // Events that run may let the queue run themselves, so what is left of it is asked for each time.

@@ -29,6 +29,9 @@ class QtSerialDevice : public SerialDevice {
   void readOn() override;
   void write(std::string_view bytes) override;
 
+  /// Sends what waits to be sent, without Qt's event loop, and lets so much time pass.
+  void serve(Duration realTime);
+
  private:
   const Clock& clock_;
   EventLoop& loop_;

@@ -57,6 +57,9 @@ class SerialLine : public std::enable_shared_from_this<SerialLine> {
   /// Begins to send. Throws `deviceError` when the device is gone.
   void write(std::string_view bytes);
 
+  /// Sends what waits to be sent, without Qt's event loop, and lets so much time pass.
+  void serve(Duration realTime);
+
   /// Ends the opening: nobody is told of anything from now on.
   void close();
 
