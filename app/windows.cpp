@@ -1,5 +1,7 @@
 #include "app/windows.h"
 
+#include "platform/runtime_failure.h"
+
 namespace gsm {
 
 Windows::Windows(Platform& machine)
@@ -21,6 +23,17 @@ Windows::Windows(Platform& machine)
             .form16 = form16_,
             .form20 = form20_,
             .settings = settings_} {}
+
+void end(Panel& panel) {
+  panel.platform.handlers.run([&panel] {
+    try {
+      panel.form1.Command8_Click();
+    } catch (const RuntimeFailure&) {
+      // The port may be gone.
+    }
+  });
+  panel.platform.program.end();
+}
 
 void start(Panel& panel) {
   panel.platform.loop.post([&form1 = panel.form1] {

@@ -51,6 +51,10 @@ class Windows {
   frmSettings settings_{panel};
 };
 
+/// Ends the program as "&Exit" does, when nobody at the screen has asked for it: a failure on the
+/// way isn't shown, but ends the program too.
+void end(Panel& panel);
+
 /// Queues the coming up of the first window, which brings the modem link up.
 void start(Panel& panel);
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <clocale>
 #include <iostream>
+#include <utility>
 
 namespace gsm {
 Desktop::Desktop(const Options& options)
@@ -39,9 +40,14 @@ Desktop::Desktop(const Options& options)
   QApplication::setQuitOnLastWindowClosed(false);
 }
 
+void Desktop::endBy(std::function<void()> end) {
+  endRequests_ = std::make_unique<EndRequests>(loop_, std::move(end), [this] {
+    loop_.goOnWithoutScreen([this](Duration realTime) { serialPort_.serve(realTime); });
+  });
+}
+
 void Desktop::run() {
   QApplication::exec();
-  // The session may ask the application to quit.
   program_.end();
 }
 

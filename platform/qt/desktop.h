@@ -2,21 +2,23 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "platform/files.h"
 #include "platform/handler_stack.h"
 #include "platform/platform.h"
+#include "platform/posix/ini_settings_store.h"
+#include "platform/posix/machine_clock.h"
 #include "platform/posix/port_names.h"
 #include "platform/posix/posix_port_probe.h"
+#include "platform/posix/posix_program.h"
 #include "platform/posix/telling_device.h"
 #include "platform/posix/uucp_lock.h"
-#include "platform/qt/qt_clock.h"
+#include "platform/qt/end_requests.h"
 #include "platform/qt/qt_event_loop.h"
 #include "platform/qt/qt_message_boxes.h"
-#include "platform/qt/qt_program.h"
 #include "platform/qt/qt_serial_device.h"
-#include "platform/qt/qt_settings_store.h"
 #include "platform/sqlite/sqlite_engine.h"
 #include "platform/sqlite/telling_engine.h"
 
@@ -38,11 +40,15 @@ class Desktop {
 
   Platform& platform() { return platform_; }
 
+  /// From now on the signals to end, the end of the session and the display's going run `end`,
+  /// which is to end the program. It may wait, also without a display.
+  void endBy(std::function<void()> end);
+
   /// Lets events run until the program ends.
   [[noreturn]] void run();
 
  private:
-  QtClock clock_;
+  MachineClock clock_;
   QtEventLoop loop_;
   QtMessageBoxes boxes_;
   Files files_;
@@ -51,13 +57,14 @@ class Desktop {
   PosixPortProbe ports_;
   QtSerialDevice serialPort_;
   TellingDevice serialDevice_;
-  QtSettingsStore settings_;
+  IniSettingsStore settings_;
   SqliteEngine sqlite_;
   TellingEngine database_;
-  QtProgram program_;
+  PosixProgram program_;
   HandlerStack handlers_;
   std::vector<Window*> windows_;
   Platform platform_;
+  std::unique_ptr<EndRequests> endRequests_;
 };
 
 }  // namespace gsm

@@ -26,7 +26,7 @@ milliseconds forTimer(Duration realTime) {
 // when its turn has come, so that at most one of it waits in the queue.
 class Recurrence : public std::enable_shared_from_this<Recurrence> {
  public:
-  Recurrence(const QtClock& clock, EventLoop& loop, Duration interval, EventLoop::Event event)
+  Recurrence(const MachineClock& clock, EventLoop& loop, Duration interval, EventLoop::Event event)
       : clock_(clock), loop_(loop), interval_(interval), event_(std::move(event)) {
     alarm_.setTimerType(Qt::PreciseTimer);
     alarm_.setSingleShot(true);
@@ -56,7 +56,7 @@ class Recurrence : public std::enable_shared_from_this<Recurrence> {
     event_();  // may end the recurrence, which lives until it returns
   }
 
-  const QtClock& clock_;
+  const MachineClock& clock_;
   EventLoop& loop_;
   const Duration interval_;
   const EventLoop::Event event_;
@@ -81,7 +81,7 @@ class QtRepetition : public Repetition {
 
 }  // namespace
 
-QtEventLoop::QtEventLoop(const QtClock& clock) : clock_(clock) {
+QtEventLoop::QtEventLoop(const MachineClock& clock) : clock_(clock) {
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
           [this] {
             if (!queue_.empty()) QCoreApplication::postEvent(this, new QEvent(kLookAtQueue));
@@ -97,12 +97,23 @@ bool QtEventLoop::event(QEvent* event) {
 }
 
 void QtEventLoop::pass(std::optional<Instant> until) {
-  if (queue_.empty()) {
+  if (serve_) {
+    passWithoutScreen(until);
+  } else if (queue_.empty()) {
     sleep(until);
   } else {
     QCoreApplication::processEvents();
     runWaiting();
   }
+}
+
+void QtEventLoop::passWithoutScreen(std::optional<Instant> until) {
+  constexpr Duration kLongest = milliseconds(20);  // what comes meanwhile isn't noticed
+  if (queue_.empty()) {
+    const Duration left = until ? clock_.realTime(*until - clock_.now()) : kLongest;
+    serve_(std::clamp(left, Duration::zero(), kLongest));
+  }
+  runWaiting();
 }
 
 // Events that run may let the queue run themselves, so what is left of it is asked for each time.

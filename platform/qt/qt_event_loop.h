@@ -3,11 +3,13 @@
 #include <QObject>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "platform/event_loop.h"
-#include "platform/qt/qt_clock.h"
+#include "platform/posix/machine_clock.h"
 
 namespace gsm {
 
@@ -20,11 +22,15 @@ namespace gsm {
 class QtEventLoop : public QObject, public EventLoop {
  public:
   /// Needs Qt's application object. `clock` must outlive the loop.
-  explicit QtEventLoop(const QtClock& clock);
+  explicit QtEventLoop(const MachineClock& clock);
 
   void post(Event event) override;
   void pass(std::optional<Instant> until = std::nullopt) override;
   [[nodiscard]] std::unique_ptr<Repetition> every(Duration interval, Event event) override;
+
+  /// The display has gone, and Qt may no longer be asked for events. From now on a pass lets the
+  /// machine's time be spent in `serve`, which is given how long, in real time.
+  void goOnWithoutScreen(std::function<void(Duration)> serve) { serve_ = std::move(serve); }
 
   bool event(QEvent* event) override;
 
@@ -35,11 +41,13 @@ class QtEventLoop : public QObject, public EventLoop {
   };
 
   void runWaiting();
+  void passWithoutScreen(std::optional<Instant> until);
   void sleep(std::optional<Instant> until);
 
-  const QtClock& clock_;
+  const MachineClock& clock_;
   std::deque<Waiting> queue_;
   std::uint64_t posted_ = 0;
+  std::function<void(Duration)> serve_;  // empty while there is a screen
 };
 
 }  // namespace gsm

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <string>
 #include <system_error>
+#include <thread>
 
 #include "platform/posix/port_access.h"
 #include "platform/posix/port_trouble.h"
@@ -91,6 +92,14 @@ void QtSerialDevice::close() {
 void QtSerialDevice::configure(const LineSettings& settings, Handshaking handshaking) {
   if (!line_) throw failure::deviceError();
   line_->configure(settings, handshaking);
+}
+
+void QtSerialDevice::serve(Duration realTime) {
+  if (line_) {
+    line_->serve(realTime);
+  } else {
+    std::this_thread::sleep_for(realTime);
+  }
 }
 
 void QtSerialDevice::readOn() {

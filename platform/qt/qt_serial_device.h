@@ -30,6 +30,9 @@ class QtSerialDevice : public SerialDevice {
   void write(std::string_view bytes) override;
   bool isGone() const override;
 
+  /// Sends what waits to be sent, without Qt's event loop, and lets so much time pass.
+  void serve(Duration realTime);
+
  private:
   const Clock& clock_;
   EventLoop& loop_;

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <chrono>
+#include <thread>
 #include <utility>
 
 #include "platform/runtime_failure.h"
@@ -220,6 +221,15 @@ void SerialLine::finishHandshaking(Handshaking handshaking) {
 void SerialLine::write(std::string_view bytes) {
   const auto size = static_cast<qint64>(bytes.size());
   if (!isAlive() || port_.write(bytes.data(), size) != size) throw failure::deviceError();
+}
+
+void SerialLine::serve(Duration realTime) {
+  const auto end = std::chrono::steady_clock::now() + realTime;
+  if (port_.isOpen() && port_.bytesToWrite() > 0) {
+    port_.waitForBytesWritten(
+        static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(realTime).count()));
+  }
+  std::this_thread::sleep_until(end);
 }
 
 void SerialLine::close() {

@@ -59,6 +59,8 @@ class SerialLine : public std::enable_shared_from_this<SerialLine> {
 
   /// Whether the device was let go of, since it no longer answers.
   bool isGone() const { return !port_.isOpen(); }
+  /// Sends what waits to be sent, without Qt's event loop, and lets so much time pass.
+  void serve(Duration realTime);
 
   /// Ends the opening: nobody is told of anything from now on.
   void close();

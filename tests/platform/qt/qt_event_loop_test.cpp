@@ -26,7 +26,7 @@ class QtEventLoopTest : public ::testing::Test {
     for (const Instant end = clock_.now() + duration; clock_.now() < end;) loop_.pass(end);
   }
 
-  QtClock clock_;
+  MachineClock clock_;
   QtEventLoop loop_{clock_};
 };
 
@@ -202,7 +202,7 @@ TEST_F(QtEventLoopTest, AHandlerThatWaitsInALoopOfQtsOwnLetsEventsRun) {
 }
 
 TEST_F(QtEventLoopTest, AFastClockShortensSleepAndIntervals) {
-  const QtClock fast(20);
+  const MachineClock fast(20);
   QtEventLoop loop(fast);
   int ticks = 0;
   const auto repetition = loop.every(1s, [&] { ++ticks; });

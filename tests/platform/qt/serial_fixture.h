@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/qt_clock.h"
+#include "platform/posix/machine_clock.h"
 #include "platform/qt/qt_event_loop.h"
 #include "platform/qt/qt_serial_device.h"
 #include "simulator/host/pseudo_terminal.h"
@@ -87,7 +87,7 @@ class SerialTest : public ::testing::Test {
 
   TemporaryFolder folder_;
   std::unique_ptr<pty::PseudoTerminal> terminal_;
-  QtClock clock_;
+  MachineClock clock_;
   QtEventLoop loop_{clock_};
   PortNames names_{folder_.path()};
   UucpLocks locks_;

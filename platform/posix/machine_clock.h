@@ -8,10 +8,10 @@ namespace gsm {
 
 /// The machine's clock. It may be told to run faster than it does, for demonstrations and tests:
 /// then the time line and the time of day both advance `speed` times as fast from the start on.
-class QtClock : public Clock {
+class MachineClock : public Clock {
  public:
   /// The time line begins now. `speed` must be above zero; 1 is real time.
-  explicit QtClock(double speed = 1);
+  explicit MachineClock(double speed = 1);
 
   Instant now() const override;
   LocalTime localTime() const override;

@@ -1,4 +1,4 @@
-#include "platform/qt/qt_clock.h"
+#include "platform/posix/machine_clock.h"
 
 #include <gtest/gtest.h>
 
@@ -13,8 +13,8 @@ float secondsOf(const LocalTime& time) {
   return static_cast<float>((time.hour * 60 + time.minute) * 60 + time.second);
 }
 
-TEST(QtClock, BeginsAtZeroAndGoesForward) {
-  const QtClock clock;
+TEST(MachineClock, BeginsAtZeroAndGoesForward) {
+  const MachineClock clock;
   const Instant first = clock.now();
   EXPECT_GE(first, Duration::zero());
   EXPECT_LT(first, 1s);
@@ -22,8 +22,8 @@ TEST(QtClock, BeginsAtZeroAndGoesForward) {
   EXPECT_GE(clock.now(), first + 2ms);
 }
 
-TEST(QtClock, TellsTheMachinesLocalTime) {
-  const QtClock clock;
+TEST(MachineClock, TellsTheMachinesLocalTime) {
+  const MachineClock clock;
   const std::time_t before = std::time(nullptr);
   const LocalTime told = clock.localTime();
   const std::time_t after = std::time(nullptr);
@@ -34,16 +34,16 @@ TEST(QtClock, TellsTheMachinesLocalTime) {
   EXPECT_EQ(told.hour, fields.tm_hour);
 }
 
-TEST(QtClock, CountsTheSecondsOfTheDay) {
-  const QtClock clock;
+TEST(MachineClock, CountsTheSecondsOfTheDay) {
+  const MachineClock clock;
   const float before = secondsOf(clock.localTime());
   const float seconds = clock.secondsSinceMidnight();
   EXPECT_GE(seconds, before);
   EXPECT_LT(seconds, before + 2);
 }
 
-TEST(QtClock, RunsFasterWhenTold) {
-  const QtClock fast(100);
+TEST(MachineClock, RunsFasterWhenTold) {
+  const MachineClock fast(100);
   const Instant line = fast.now();
   const float day = fast.secondsSinceMidnight();
   std::this_thread::sleep_for(50ms);
@@ -52,9 +52,9 @@ TEST(QtClock, RunsFasterWhenTold) {
   EXPECT_NEAR(static_cast<double>(fast.secondsSinceMidnight() - day), onLine, 2);
 }
 
-TEST(QtClock, TellsHowLongADurationReallyLasts) {
-  EXPECT_EQ(QtClock(20).realTime(1s), 50ms);
-  EXPECT_EQ(QtClock(1).realTime(1s), 1s);
+TEST(MachineClock, TellsHowLongADurationReallyLasts) {
+  EXPECT_EQ(MachineClock(20).realTime(1s), 50ms);
+  EXPECT_EQ(MachineClock(1).realTime(1s), 1s);
 }
 
 }  // namespace

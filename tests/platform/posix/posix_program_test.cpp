@@ -1,4 +1,4 @@
-#include "platform/qt/qt_program.h"
+#include "platform/posix/posix_program.h"
 
 #include <gtest/gtest.h>
 
@@ -8,13 +8,13 @@
 namespace gsm {
 namespace {
 
-TEST(QtProgramDeathTest, ClosesEverythingAndEndsTheProcess) {
-  QtProgram program([] { std::fprintf(stderr, "all closed"); });
+TEST(PosixProgramDeathTest, ClosesEverythingAndEndsTheProcess) {
+  PosixProgram program([] { std::fprintf(stderr, "all closed"); });
   EXPECT_EXIT(program.end(), ::testing::ExitedWithCode(0), "all closed");
 }
 
-TEST(QtProgramDeathTest, NoTrapCatchesTheEnd) {
-  QtProgram program([] {});
+TEST(PosixProgramDeathTest, NoTrapCatchesTheEnd) {
+  PosixProgram program([] {});
   const auto handler = [&program] {
     try {
       program.end();
@@ -25,8 +25,8 @@ TEST(QtProgramDeathTest, NoTrapCatchesTheEnd) {
   EXPECT_EXIT(handler(), ::testing::ExitedWithCode(0), "");
 }
 
-TEST(QtProgramDeathTest, EndsEvenWhenClosingFails) {
-  QtProgram program([] { throw std::runtime_error("device gone"); });
+TEST(PosixProgramDeathTest, EndsEvenWhenClosingFails) {
+  PosixProgram program([] { throw std::runtime_error("device gone"); });
   EXPECT_EXIT(program.end(), ::testing::ExitedWithCode(0), "device gone");
 }
 

@@ -7,10 +7,10 @@
 namespace gsm {
 
 /// The run of the desktop program.
-class QtProgram : public Program {
+class PosixProgram : public Program {
  public:
   /// `closeAll` closes what must not be left open: port and files.
-  explicit QtProgram(std::function<void()> closeAll);
+  explicit PosixProgram(std::function<void()> closeAll);
 
   [[noreturn]] void end() override;
 

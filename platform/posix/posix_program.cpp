@@ -1,4 +1,4 @@
-#include "platform/qt/qt_program.h"
+#include "platform/posix/posix_program.h"
 
 #include <unistd.h>
 
@@ -8,13 +8,15 @@
 
 namespace gsm {
 
-QtProgram::QtProgram(std::function<void()> closeAll) : closeAll_(std::move(closeAll)) {}
+PosixProgram::PosixProgram(std::function<void()> closeAll) : closeAll_(std::move(closeAll)) {}
 
 // Handlers are waiting below, some of them with a trap for whatever comes; none of them may run
 // again. So nothing is unwound: the process goes.
-void QtProgram::end() {
+void PosixProgram::end() {
   try {
     closeAll_();
+  } catch (const RuntimeFailure& failure) {
+    std::fprintf(stderr, "closing port and files: %s\n", failure.what());
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "closing port and files: %s\n", failure.what());
   }

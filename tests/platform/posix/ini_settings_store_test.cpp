@@ -1,4 +1,4 @@
-#include "platform/qt/qt_settings_store.h"
+#include "platform/posix/ini_settings_store.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -11,30 +11,30 @@
 namespace gsm {
 namespace {
 
-TEST(QtSettingsStore, KeepsValuesUnderKeysOfSections) {
+TEST(IniSettingsStore, KeepsValuesUnderKeysOfSections) {
   const TemporaryFolder folder;
-  QtSettingsStore store(folder.path() / "settings.ini");
+  IniSettingsStore store(folder.path() / "settings.ini");
   store.save("MSComm1", "Port", "3");
   store.save("MSComm1", "Handshaking", "0");
   EXPECT_EQ(folder.read("settings.ini"), "[MSComm1]\nHandshaking=0\nPort=3\n");
 }
 
-TEST(QtSettingsStore, ReplacesAnOldValue) {
+TEST(IniSettingsStore, ReplacesAnOldValue) {
   const TemporaryFolder folder;
-  QtSettingsStore(folder.path() / "settings.ini").save("MSComm1", "Port", "3");
-  QtSettingsStore(folder.path() / "settings.ini").save("MSComm1", "Port", "4");
+  IniSettingsStore(folder.path() / "settings.ini").save("MSComm1", "Port", "3");
+  IniSettingsStore(folder.path() / "settings.ini").save("MSComm1", "Port", "4");
   EXPECT_EQ(folder.read("settings.ini"), "[MSComm1]\nPort=4\n");
 }
 
-TEST(QtSettingsStore, KeepsCommasInOneValue) {
+TEST(IniSettingsStore, KeepsCommasInOneValue) {
   const TemporaryFolder folder;
-  QtSettingsStore(folder.path() / "settings.ini").save("MSComm1", "Settings", "9600,N,8,1");
+  IniSettingsStore(folder.path() / "settings.ini").save("MSComm1", "Settings", "9600,N,8,1");
   EXPECT_EQ(folder.read("settings.ini"), "[MSComm1]\nSettings=\"9600,N,8,1\"\n");
 }
 
-TEST(QtSettingsStore, FailsWhenTheValueCantBeKept) {
+TEST(IniSettingsStore, FailsWhenTheValueCantBeKept) {
   const TemporaryFolder folder;
-  QtSettingsStore store(folder.path() / "no folder" / "\x01" / "settings.ini");
+  IniSettingsStore store(folder.path() / "no folder" / "\x01" / "settings.ini");
   folder.write("no folder", "a file in the folder's place");
   EXPECT_THROW(store.save("MSComm1", "Port", "3"), RuntimeFailure);
 }

@@ -6,10 +6,11 @@
 
 namespace gsm {
 
-/// The settings store as a file of sections with lines "key=value".
-class QtSettingsStore : public SettingsStore {
+/// The settings store as a file of sections with lines "key=value", in UTF-8. The file is replaced
+/// as a whole at each change.
+class IniSettingsStore : public SettingsStore {
  public:
-  explicit QtSettingsStore(std::filesystem::path file);
+  explicit IniSettingsStore(std::filesystem::path file);
 
   void save(const std::string& section, const std::string& key, const std::string& value) override;
 

@@ -1,4 +1,4 @@
-#include "platform/qt/qt_clock.h"
+#include "platform/posix/machine_clock.h"
 
 #include <ctime>
 
@@ -14,25 +14,25 @@ std::tm localFields(std::chrono::sys_seconds time) {
 
 }  // namespace
 
-QtClock::QtClock(double speed) : speed_(speed) {}
+MachineClock::MachineClock(double speed) : speed_(speed) {}
 
-Instant QtClock::now() const {
+Instant MachineClock::now() const {
   const Duration elapsed = std::chrono::steady_clock::now() - start_;
   // In real time every nanosecond counts as it is, without a detour over floating point.
   return speed_ == 1 ? elapsed : fromSeconds(toSeconds(elapsed) * speed_);
 }
 
-Duration QtClock::realTime(Duration duration) const {
+Duration MachineClock::realTime(Duration duration) const {
   return speed_ == 1 ? duration : fromSeconds(toSeconds(duration) / speed_);
 }
 
 // The machine's wall clock, which its owner may set, plus what the fast clock is ahead of it.
-QtClock::SystemTime QtClock::wallTime() const {
+MachineClock::SystemTime MachineClock::wallTime() const {
   const Instant time = now();
   return std::chrono::system_clock::now() + (time - realTime(time));
 }
 
-LocalTime QtClock::localTime() const {
+LocalTime MachineClock::localTime() const {
   const std::tm fields = localFields(std::chrono::floor<std::chrono::seconds>(wallTime()));
   return {.year = fields.tm_year + 1900,
           .month = fields.tm_mon + 1,
@@ -42,7 +42,7 @@ LocalTime QtClock::localTime() const {
           .second = fields.tm_sec};
 }
 
-float QtClock::secondsSinceMidnight() const {
+float MachineClock::secondsSinceMidnight() const {
   const SystemTime time = wallTime();
   const auto wholeSecond = std::chrono::floor<std::chrono::seconds>(time);
   const std::tm fields = localFields(wholeSecond);
