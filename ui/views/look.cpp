@@ -5,7 +5,9 @@
 #include <QIcon>
 #include <QPalette>
 #include <QStyleFactory>
+#include <QTimer>
 #include <QToolTip>
+#include <chrono>
 
 #include "ui/forms.h"
 #include "ui/views/accessibility.h"
@@ -39,7 +41,10 @@ void dressApplication() {
   QApplication::setPalette(lightPalette());
   QToolTip::setPalette(lightPalette());
   describeForms();
-  QApplication::setWindowIcon(QIcon(":/icons/gsm-application.svg"));
+  // The window first: desktops want the icon in several sizes, each drawn anew.
+  constexpr std::chrono::milliseconds kLittleLater{200};
+  QTimer::singleShot(kLittleLater, qApp,
+                     [] { QApplication::setWindowIcon(QIcon(":/icons/gsm-application.svg")); });
   if (QFile style(":/style.qss"); style.open(QIODevice::ReadOnly)) {
     qApp->setStyleSheet(QString::fromUtf8(style.readAll()));
   }

@@ -6,16 +6,18 @@
 
 namespace gsm {
 
-PicturePainter::PicturePainter(QWidget& widget)
-    : QObject(&widget), widget_(widget), drawing_(widget.property(kProperty).toString()) {
-  drawing_.setAspectRatioMode(Qt::KeepAspectRatio);
+PicturePainter::PicturePainter(QWidget& widget) : QObject(&widget), widget_(widget) {
   widget.installEventFilter(this);
 }
 
 bool PicturePainter::eventFilter(QObject*, QEvent* event) {
   if (event->type() != QEvent::Paint) return false;
+  if (!drawing_) {
+    drawing_.emplace(widget_.property(kProperty).toString());
+    drawing_->setAspectRatioMode(Qt::KeepAspectRatio);
+  }
   QPainter painter(&widget_);
-  drawing_.render(&painter, widget_.rect());
+  drawing_->render(&painter, widget_.rect());
   return true;
 }
 

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QSvgRenderer>
 #include <QWidget>
+#include <optional>
 
 namespace gsm {
 
@@ -19,7 +20,7 @@ class PicturePainter : public QObject {
 
  private:
   QWidget& widget_;
-  QSvgRenderer drawing_;
+  std::optional<QSvgRenderer> drawing_;  // read when it is first seen
 };
 
 }  // namespace gsm
