@@ -8,8 +8,10 @@ namespace gsm::simulator {
 namespace {
 
 constexpr CommandRows (*kTables[])() = {
-    identityCommands, lineCommands, profileCommands,    simCommands,       networkCommands,
-    callCommands,     dialCommands, callStatusCommands, phoneBookCommands, messageCommands,
+    audioCommands,     dataCommands,    cellCommands,     moduleCommands, operatorCommands,
+    packetCommands,    powerCommands,   identityCommands, lineCommands,   profileCommands,
+    simCommands,       networkCommands, callCommands,     dialCommands,   callStatusCommands,
+    phoneBookCommands, messageCommands,
 };
 
 const CommandRow* rowOf(std::string_view name) {
@@ -53,6 +55,16 @@ Reply executeLine(ModemState& state, std::string_view body) {
     if (whole.failed()) break;
   }
   return whole;
+}
+
+std::string standardCommands() {
+  std::string names;
+  for (const auto table : kTables) {
+    for (const CommandRow& row : table()) {
+      if (row.standardOnly) names.append(names.empty() ? "AT" : " AT").append(row.name);
+    }
+  }
+  return names;
 }
 
 }  // namespace gsm::simulator

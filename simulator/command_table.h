@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "simulator/command.h"
@@ -19,11 +20,27 @@ struct CommandRow {
   CommandHandler query = nullptr;
   CommandHandler set = nullptr;
   CommandHandler test = nullptr;
+
+  // Nobody has noted down what a modem of this family answers: its bytes are the AT standard's.
+  bool standardOnly = false;
 };
+
+// The same row, marked as one that follows the standard alone.
+constexpr CommandRow fromStandard(CommandRow row) {
+  row.standardOnly = true;
+  return row;
+}
 
 using CommandRows = std::span<const CommandRow>;
 
 // The tables, one for each subject, in the file of that name.
+CommandRows audioCommands();
+CommandRows dataCommands();
+CommandRows cellCommands();
+CommandRows moduleCommands();
+CommandRows operatorCommands();
+CommandRows packetCommands();
+CommandRows powerCommands();
 CommandRows identityCommands();
 CommandRows lineCommands();
 CommandRows profileCommands();
@@ -42,5 +59,8 @@ CommandHandler handlerOf(const Command& command);
 // fails. The reply holds what all of them tell, and the result of the last one done. A command that
 // takes its time is always the last of its line.
 Reply executeLine(ModemState& state, std::string_view body);
+
+// The commands that follow the standard alone, with blanks between them.
+std::string standardCommands();
 
 }  // namespace gsm::simulator

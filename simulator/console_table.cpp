@@ -2,14 +2,15 @@
 
 #include <algorithm>
 
+#include "simulator/command_table.h"
 #include "simulator/text.h"
 
 namespace gsm::simulator {
 
 namespace {
 
-constexpr ConsoleRows (*kTables[])() = {networkConsole, simConsole, callConsole, lineConsole,
-                                        generalConsole};
+constexpr ConsoleRows (*kTables[])() = {networkConsole, simConsole,    callConsole,
+                                        lineConsole,    moduleConsole, generalConsole};
 
 // Where the explanations start in the help.
 constexpr std::size_t kHelpColumn = 44;
@@ -37,7 +38,8 @@ std::string consoleHelp() {
       help.append(help.empty() ? "" : "\n").append(line).append(row.help);
     }
   }
-  return help;
+  return help + "\n\nFrom the AT standard alone, for no modem's own replies are known: " +
+         standardCommands();
 }
 
 std::string runConsoleLine(ModemState& state, std::string_view line) {

@@ -27,6 +27,7 @@ ConsoleRows lineConsole();
 ConsoleRows networkConsole();
 ConsoleRows simConsole();
 ConsoleRows callConsole();
+ConsoleRows moduleConsole();
 ConsoleRows generalConsole();
 
 // What a handler returns when its operands don't fit; it is replaced by an error that shows how the
@@ -36,7 +37,8 @@ inline std::string wrongUse() { return std::string(kWrongUse); }
 
 inline std::string consoleError(std::string_view text) { return "error: " + std::string(text); }
 
-// All commands, one on a line, with their operands and what they do.
+// All commands, one on a line, with their operands and what they do, and the modem's commands whose
+// replies follow the standard alone.
 std::string consoleHelp();
 
 // Finds the command and does it. An empty line does nothing.

@@ -58,7 +58,12 @@ void Modem::hostWrites(std::string_view bytes, int speed) {
 }
 
 // Takes what has been heard, up to the end of the next command line: one line is done at a time.
+// What was heard before the power went is forgotten.
 void Modem::work() {
+  if (state_.off) {
+    waiting_.clear();
+    input_ = {};
+  }
   while (!busy_ && !waiting_.empty()) {
     std::size_t taken = 0;
     std::string echo;

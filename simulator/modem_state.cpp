@@ -34,7 +34,8 @@ ModemState::ModemState(Timeline& timeline, ProfileStore& store, Surroundings aro
           options.cutter, chainOf(options)),
       notices(settings, transmitter, silent),
       network(timeline, settings, notices, options.sim == SimStatus::kReady),
-      calls(timeline, settings, notices) {
+      calls(timeline, settings, notices),
+      cellDumps(timeline, network, notices) {
   if (options.speed) settings.assumeSpeed(*options.speed);
   speed_ = settings.profile.speed;
   if (speed_ != kAutobaud) transmitter.setSpeed(speed_);

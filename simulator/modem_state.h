@@ -1,7 +1,9 @@
 #pragma once
 
 #include "simulator/calls.h"
+#include "simulator/cell_dumps.h"
 #include "simulator/modem_options.h"
+#include "simulator/module_features.h"
 #include "simulator/network.h"
 #include "simulator/notices.h"
 #include "simulator/phone_book.h"
@@ -34,11 +36,14 @@ struct ModemState {
   SimCard sim;
   PhoneBook phoneBook;
   bool silent;
+  bool off = false;  // for want of power, and so silent, too
   bool plugged = true;
   Transmitter transmitter;
   Notices notices;
   Network network;
   Calls calls;
+  CellDumps cellDumps;
+  ModuleFeatures module;
 
  private:
   int speed_;
