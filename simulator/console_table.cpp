@@ -38,8 +38,7 @@ std::string consoleHelp() {
       help.append(help.empty() ? "" : "\n").append(line).append(row.help);
     }
   }
-  return help + "\n\nFrom the AT standard alone, for no modem's own replies are known: " +
-         standardCommands();
+  return help + "\nanswered by the AT standard alone: " + standardCommands();
 }
 
 std::string runConsoleLine(ModemState& state, std::string_view line) {

@@ -25,6 +25,9 @@ struct ModemState {
   // Makes `speed`, or kAutobaud, the speed of the line, in step with the profile in force.
   void changeSpeed(int speed);
 
+  // Gives the line the framing of the profile in force, in both directions.
+  void applyFraming();
+
   // The speed at which the modem listens, which lags behind the profile's while a reply goes out.
   int speed() const { return speed_; }
 

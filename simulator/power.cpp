@@ -18,6 +18,7 @@ void switchOn(ModemState& state) {
   state.off = false;
   state.silent = false;
   state.settings.reloadProfile();
+  state.applyFraming();
   state.changeSpeed(state.settings.profile.speed);
   const bool hasCard = state.sim.status() != SimStatus::kAbsent;
   if (hasCard) {
