@@ -15,16 +15,14 @@ struct Letter {
   std::string_view codes;
 };
 
-using std::string_view_literals::operator""sv;
-
 constexpr std::array kLetters = {
-    Letter{'@', "\x00"sv},     Letter{'$', "\x02"sv},    Letter{'_', "\x11"sv},
-    Letter{'[', "\x1B<"sv},    Letter{'\\', "\x1B/"sv},  Letter{']', "\x1B>"sv},
-    Letter{'^', "\x1B\x14"sv}, Letter{'{', "\x1B("sv},   Letter{'|', "\x1B@"sv},
-    Letter{'}', "\x1B)"sv},    Letter{'~', "\x1B="sv},   Letter{'\x82', "\x05"sv},
-    Letter{'\x8A', "\x04"sv},  Letter{'\x85', "\x7F"sv}, Letter{'\x84', "\x7B"sv},
-    Letter{'\x94', "\x7C"sv},  Letter{'\x81', "\x7E"sv}, Letter{'\x8E', "\x5B"sv},
-    Letter{'\x99', "\x5C"sv},  Letter{'\x9A', "\x5E"sv}, Letter{'\xE1', "\x1E"sv},
+    Letter{'@', {"\x00", 1}}, Letter{'$', "\x02"},    Letter{'_', "\x11"},
+    Letter{'[', "\x1B<"},     Letter{'\\', "\x1B/"},  Letter{']', "\x1B>"},
+    Letter{'^', "\x1B\x14"},  Letter{'{', "\x1B("},   Letter{'|', "\x1B@"},
+    Letter{'}', "\x1B)"},     Letter{'~', "\x1B="},   Letter{'\x82', "\x05"},
+    Letter{'\x8A', "\x04"},   Letter{'\x85', "\x7F"}, Letter{'\x84', "\x7B"},
+    Letter{'\x94', "\x7C"},   Letter{'\x81', "\x7E"}, Letter{'\x8E', "\x5B"},
+    Letter{'\x99', "\x5C"},   Letter{'\x9A', "\x5E"}, Letter{'\xE1', "\x1E"},
 };
 
 std::string codesOf(char byte) {
