@@ -3,4 +3,5 @@ build_packages=(g++ cmake ninja-build nlohmann-json3-dev libgtest-dev libbenchma
                 libsqlite3-dev mdbtools-dev pkg-config)
 desktop_packages=(qt6-base-dev qt6-serialport-dev qt6-svg-dev libqt6svg6 fonts-dejavu-core)
 screen_packages=(xvfb xauth)
+client_packages=(gnokii-cli gammu)
 check_packages=(clang clang-format clang-tidy git)

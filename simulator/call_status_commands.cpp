@@ -20,7 +20,7 @@ int bars(int signal) {
 // Battery, signal, service, message, call, roaming, message store full.
 Reply queryIndicators(ModemState& state, const Command& command) {
   const Network& network = state.network;
-  const int values[] = {kFullBars,
+  const int values[] = {state.module.battery,
                         bars(network.signal),
                         network.hasService() ? 1 : 0,
                         0,

@@ -12,7 +12,9 @@ constexpr CommandRows (*kTables[])() = {
     identityCommands,  lineCommands,    profileCommands,      simCommands,
     networkCommands,   callCommands,    dialCommands,         callStatusCommands,
     phoneBookCommands, messageCommands, messageStoreCommands, messageSendCommands,
-    serviceCommands,   lockCommands,
+    serviceCommands,   lockCommands,    audioCommands,        dataCommands,
+    cellCommands,      moduleCommands,  operatorCommands,     packetCommands,
+    powerCommands,
 };
 
 const CommandRow* rowOf(std::string_view name) {

@@ -34,6 +34,13 @@ constexpr CommandRow fromStandard(CommandRow row) {
 using CommandRows = std::span<const CommandRow>;
 
 // The tables, one for each subject, in the file of that name.
+CommandRows audioCommands();
+CommandRows dataCommands();
+CommandRows cellCommands();
+CommandRows moduleCommands();
+CommandRows operatorCommands();
+CommandRows packetCommands();
+CommandRows powerCommands();
 CommandRows identityCommands();
 CommandRows lineCommands();
 CommandRows profileCommands();

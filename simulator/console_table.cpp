@@ -10,7 +10,7 @@ namespace gsm::simulator {
 namespace {
 
 constexpr ConsoleRows (*kTables[])() = {networkConsole, simConsole,  callConsole,   messageConsole,
-                                        serviceConsole, lineConsole, generalConsole};
+                                        serviceConsole, lineConsole, moduleConsole, generalConsole};
 
 // Where the explanations start in the help.
 constexpr std::size_t kHelpColumn = 44;

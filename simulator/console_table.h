@@ -30,6 +30,7 @@ ConsoleRows simConsole();
 ConsoleRows callConsole();
 ConsoleRows messageConsole();
 ConsoleRows serviceConsole();
+ConsoleRows moduleConsole();
 ConsoleRows generalConsole();
 
 // What a handler returns when its operands don't fit; it is replaced by an error that shows how the

@@ -95,6 +95,7 @@ constexpr CommandRow kRows[] = {
     {.name = "D", .execute = dial},
     {.name = "A", .execute = answer},
     {.name = "H", .execute = hangUp},
+    {.name = "+CHUP", .execute = hangUp, .test = isSupported},
     {.name = "+VTS", .set = sendTone, .test = listTones},
 };
 

@@ -21,6 +21,14 @@ std::string callsText(const Calls& calls) {
   return text.empty() ? "none" : text;
 }
 
+std::string moduleText(const ModemState& state) {
+  const ModuleFeatures& module = state.module;
+  std::string text = "power " + onOff(!state.off) + ", battery " + std::to_string(module.battery) +
+                     ", voice mail " + onOff(module.voiceMail.waiting) + ", pins ";
+  for (std::size_t pin = 0; pin < kPins; ++pin) text += module.pins[pin] ? '1' : '0';
+  return text.append(", cell ").append(state.network.cell().number);
+}
+
 std::string showState(ModemState& state, std::string_view) {
   const SimCard& sim = state.sim;
   const Network& network = state.network;
@@ -31,7 +39,7 @@ std::string showState(ModemState& state, std::string_view) {
          "\nsim: " + std::string(nameOf(sim.status())) + ", " + std::to_string(sim.pinTries()) +
          " PIN and " + std::to_string(sim.pukTries()) + " PUK tries left\nnetwork: registration " +
          std::to_string(network.registration()) + ", signal " + std::to_string(network.signal) +
-         "," + std::to_string(network.bitErrorRate) +
+         "," + std::to_string(network.bitErrorRate) + "\nmodule: " + moduleText(state) +
          "\nphone book: " + std::to_string(state.phoneBook.entries().size()) + " of " +
          std::to_string(kPhoneBookLocations) + "\ncalls: " + callsText(state.calls);
 }

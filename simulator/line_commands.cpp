@@ -17,6 +17,13 @@ Reply setSpeed(ModemState& state, const Command& command) {
   return reply;
 }
 
+// Likewise.
+Reply setFraming(ModemState& state, const Command& command) {
+  Reply reply = setNumbers<&Profile::framing, &Profile::parity>(state, command);
+  if (!reply.failed()) reply.afterwards.push_back([&state] { state.applyFraming(); });
+  return reply;
+}
+
 Reply listSpeeds(ModemState&, const Command& command) { return ok(headed(command, kSpeeds)); }
 
 Reply listFlowControls(ModemState&, const Command& command) {
@@ -46,7 +53,10 @@ constexpr CommandRow kRows[] = {
     {.name = "S4", .query = queryConstant<'\n'>},
     {.name = "S5", .query = queryConstant<'\b'>},
     {.name = "+IPR", .query = queryNumbers<&Profile::speed>, .set = setSpeed, .test = listSpeeds},
-    profileNumbers<&Profile::framing, &Profile::parity>("+ICF"),
+    {.name = "+ICF",
+     .query = queryNumbers<&Profile::framing, &Profile::parity>,
+     .set = setFraming,
+     .test = listNumbers<&Profile::framing, &Profile::parity>},
     {.name = "+IFC",
      .query = queryNumbers<&Profile::hostFlowControl, &Profile::modemFlowControl>,
      .set = setNumbers<&Profile::hostFlowControl, &Profile::modemFlowControl>,

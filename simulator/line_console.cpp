@@ -12,6 +12,7 @@ namespace {
 std::string setSilent(ModemState& state, std::string_view operand) {
   const auto on = parseSwitch(operand);
   if (!on) return wrongUse();
+  if (state.off) return consoleError("there is no power; 'power on' brings it back");
   state.silent = *on;
   return {};
 }

@@ -19,11 +19,11 @@ constexpr bool isLineSpeed(int speed) {
 }
 
 // The time that `bytes` bytes take at `speed` bits per second: a byte is ten bits on the line, with
-// its start and its stop bit.
-constexpr std::chrono::nanoseconds lineTime(std::size_t bytes, int speed) {
+// its start and its stop bit, unless AT+ICF has given it others.
+constexpr std::chrono::nanoseconds lineTime(std::size_t bytes, int speed, int bits = 10) {
   using std::chrono::nanoseconds;
-  constexpr nanoseconds kTenSeconds = std::chrono::seconds(10);
-  return kTenSeconds * static_cast<nanoseconds::rep>(bytes) / speed;
+  const nanoseconds bitsInSeconds = std::chrono::seconds(bits);
+  return bitsInSeconds * static_cast<nanoseconds::rep>(bytes) / speed;
 }
 
 }  // namespace gsm::simulator

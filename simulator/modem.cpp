@@ -52,7 +52,9 @@ void Modem::hostWrites(std::string_view bytes, int speed) {
   while (!bytes.empty()) {
     const std::size_t room = std::min(kReceiveBuffer - waiting_.size(), bytes.size());
     if (room == 0) return;
-    waiting_ += bytes.substr(0, room);
+    for (const char byte : bytes.substr(0, room)) {
+      waiting_ += static_cast<char>(byte & state_.transmitter.mask());
+    }
     bytes.remove_prefix(room);
     work();
     heedHangUp();
@@ -81,7 +83,8 @@ void Modem::work() {
     const LineInput::Line line = input_.takeLine();
     if (!line.isCommand) continue;
     busy_ = true;
-    const auto arrival = lineTime(taken, state_.transmitter.speed());
+    const auto arrival =
+        lineTime(taken, state_.transmitter.speed(), state_.transmitter.framing().bits);
     timeline_.after(arrival + latency_, [this, line] { answer(line); });
   }
 }
@@ -104,8 +107,15 @@ void Modem::finish(Reply reply) {
   state_.transmitter.send(Source::kReply, bytes, [this, actions = std::move(reply.afterwards)] {
     for (const auto& action : actions) action();
     busy_ = false;
+    if (state_.off) forgetHeard();
     work();
   });
+}
+
+// Of a line that hasn't ended, too.
+void Modem::forgetHeard() {
+  waiting_.clear();
+  input_ = {};
 }
 
 void Modem::heedHangUp() {

@@ -40,6 +40,7 @@ class Modem {
   void work();
   void answer(const LineInput::Line& line);
   void finish(Reply reply);
+  void forgetHeard();
   void heedHangUp();
 
   ModemState state_;

@@ -40,10 +40,16 @@ ModemState::ModemState(Timeline& timeline, ProfileStore& store, Surroundings aro
                  return !surroundings.keepMessages || surroundings.keepMessages(text);
                }),
       prompt(settings, transmitter, silent),
-      delays(timeline) {
+      delays(timeline),
+      cellDumps(timeline, network, notices) {
   if (options.speed) settings.assumeSpeed(*options.speed);
   speed_ = settings.profile.speed;
+  applyFraming();
   if (speed_ != kAutobaud) transmitter.setSpeed(speed_);
+}
+
+void ModemState::applyFraming() {
+  transmitter.setFraming(kFramings.at(static_cast<std::size_t>(settings.profile.framing)));
 }
 
 void ModemState::changeSpeed(int speed) {

@@ -2,10 +2,12 @@
 
 #include "simulator/barring.h"
 #include "simulator/calls.h"
+#include "simulator/cell_dumps.h"
 #include "simulator/forwarding.h"
 #include "simulator/locks.h"
 #include "simulator/messages.h"
 #include "simulator/modem_options.h"
+#include "simulator/module_features.h"
 #include "simulator/network.h"
 #include "simulator/notices.h"
 #include "simulator/phone_book.h"
@@ -28,6 +30,9 @@ struct ModemState {
   // Makes `speed`, or kAutobaud, the speed of the line, in step with the profile in force.
   void changeSpeed(int speed);
 
+  // Gives the line the framing of the profile in force, in both directions.
+  void applyFraming();
+
   // The speed at which the modem listens, which lags behind the profile's while a reply goes out.
   int speed() const { return speed_; }
 
@@ -39,6 +44,7 @@ struct ModemState {
   SimCard sim;
   PhoneBook phoneBook;
   bool silent;
+  bool off = false;  // for want of power, and so silent, too
   bool plugged = true;
   Transmitter transmitter;
   Notices notices;
@@ -50,6 +56,8 @@ struct ModemState {
   Locks locks;
   TextPrompt prompt;
   GuardedTimeline delays;  // of commands that take their time
+  CellDumps cellDumps;
+  ModuleFeatures module;
 
  private:
   int speed_;

@@ -6,16 +6,24 @@ namespace gsm::simulator {
 
 using std::chrono::milliseconds;
 
+namespace {
+
+// What +CREG and +CGREG can tell unasked.
+constexpr int kNotices = 1;
+constexpr int kNoticesWithPlace = 2;
+
+}  // namespace
+
 Network::Network(Timeline& timeline, const Settings& settings, Notices& notices, bool registered)
     : timeline_(timeline),
       settings_(settings),
       notices_(notices),
       registration_(registered ? kRegisteredAtHome : kNotRegistered) {}
 
-std::string Network::registrationText() const {
+std::string Network::placeText(int notices) const {
   std::string text = std::to_string(registration_);
-  if (settings_.profile.registrationNotices == 2 && hasService()) {
-    text.append(",\"").append(kLocationArea).append("\",\"").append(kCell).append("\"");
+  if (notices == kNoticesWithPlace && hasService()) {
+    text.append(",\"").append(cell().area).append("\",\"").append(cell().number).append("\"");
   }
   return text;
 }
@@ -45,7 +53,20 @@ void Network::lose() {
 void Network::enter(int status) {
   if (registration_ == status) return;
   registration_ = status;
-  if (settings_.profile.registrationNotices != 0) notices_.line("+CREG: " + registrationText());
+  announce(kNotices);
+}
+
+// Only a notice with the place tells anything of another cell.
+void Network::changeCell() {
+  inSecondCell_ = !inSecondCell_;
+  if (hasService()) announce(kNoticesWithPlace);
+}
+
+void Network::announce(int leastNotices) {
+  if (settings_.profile.registrationNotices >= leastNotices) {
+    notices_.line("+CREG: " + registrationText());
+  }
+  if (packetNotices >= leastNotices) notices_.line("+CGREG: " + packetRegistrationText());
 }
 
 }  // namespace gsm::simulator

@@ -13,6 +13,7 @@ namespace gsm::simulator {
 enum class Indication {
   kSimPresence = 1,
   kRemoteRings = 2,
+  kReadyForBasics = 4,
   kReadyForAll = 8,
   kCallCreated = 16,
   kCallReleased = 32,

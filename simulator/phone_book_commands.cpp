@@ -1,3 +1,4 @@
+#include "simulator/character_set.h"
 #include "simulator/phone_number.h"
 #include "simulator/profile_number.h"
 #include "simulator/sim_trouble.h"
@@ -66,7 +67,7 @@ Reply readEntries(ModemState& state, const Command& command) {
     const auto& [location, entry] = *at;
     if (!lines.empty()) lines += "\r\n";
     lines += headed(command, std::to_string(location) + "," + numberFields(entry.number) + "," +
-                                 quoted(entry.name));
+                                 quoted(encoded(entry.name, state.settings.profile.characterSet)));
   }
   return lines.empty() ? error(EquipmentError::kNotFound) : ok(lines);
 }
@@ -78,7 +79,9 @@ Reply listEntryLimits(ModemState& state, const Command& command) {
 // "LOCATION,NUMBER[,TYPE[,NAME]]", with or without quotes around the number. The type only adds the
 // plus that a number lacks, for the plus is what decides; a name keeps its blanks.
 Reply writeEntry(ModemState& state, int location, const Arguments& given) {
-  PhoneBookEntry entry{std::string(given.text(1)), std::string(given.text(3))};
+  const auto name = decoded(given.text(3), state.settings.profile.characterSet);
+  if (!name) return error(EquipmentError::kTextMalformed);
+  PhoneBookEntry entry{std::string(given.text(1)), *name};
   const auto type = given.has(2) ? given.number(2) : typeOfNumber(entry.number);
   if (!type) return error();
   if (*type != kPlainNumber && *type != kInternationalNumber) {

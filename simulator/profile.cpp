@@ -26,6 +26,7 @@ bool assign(StoredSettings& settings, std::string_view key, int value) {
 }  // namespace
 
 std::string Range::listing() const {
+  if (least == most) return "(" + std::to_string(least) + ")";
   const bool pair = least + step == most;
   return "(" + std::to_string(least) + (pair ? "," : "-") + std::to_string(most) + ")";
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,6 +25,26 @@ struct Profile {
   int callWaiting = 0;
   int registrationNotices = 0;
   int speaker = 0;
+  int speakerGain = 128;
+  int microphoneGain = 32;
+  int echoMode = 0;
+  int echoAlgorithm = 1;
+  int echoVolume = 0;  // of algorithm 1, as the three below
+  int echoStep = 6;
+  int echoRelativeThreshold = 10;
+  int echoHighestThreshold = 7;
+  int echoParameter = 30;  // of algorithm 3, as the two below
+  int echoNoiseThreshold = 8000;
+  int echoTaps = 256;
+  int sideTone = 1;
+  int sideToneLevel = 0;
+  int toneLength = 0;  // in tenths of a second; 0 for the usual one
+  int bearerSpeed = 0;
+  int bearerName = 0;
+  int bearerElement = 1;
+  int compression = 2;
+  int errorCorrection = 0;
+  int serviceClass = 0;
   int speed = 115200;
   int framing = 3;
   int parity = 4;
@@ -56,19 +78,27 @@ struct Range {
     return value >= least && value <= most && (value - least) % step == 0;
   }
 
-  // The values as a test command lists them: "(0,1)" for two, "(0-3)" for more.
+  // The values as a test command lists them: "(0)" for one, "(0,1)" for two, "(0-3)" for more.
   std::string listing() const;
 };
+
+// Values that no range describes.
+constexpr bool isSpeedOrAny(int speed) { return speed == kAutobaud || isLineSpeed(speed); }
+constexpr bool isBearerSpeed(int speed) {
+  constexpr std::array kAbove8 = {12, 14, 65, 66, 68, 70, 71, 75};
+  return speed <= 8 || std::find(kAbove8.begin(), kAbove8.end(), speed) != kAbove8.end();
+}
+constexpr bool isErrorCorrection(int mode) { return mode != 1 && mode != 3; }
 
 // One setting: its key in the stored text, where it lies in the profile, and what it may be.
 struct ProfileField {
   std::string_view key;
   int Profile::*member;
   Range range;
+  bool (*isOneOf)(int value) = nullptr;  // for a range with holes
 
   constexpr bool accepts(int value) const {
-    const bool isSpeed = member == &Profile::speed;
-    return range.holds(value) && (!isSpeed || value == kAutobaud || isLineSpeed(value));
+    return range.holds(value) && (isOneOf == nullptr || isOneOf(value));
   }
 };
 
@@ -86,7 +116,27 @@ inline constexpr ProfileField kProfileFields[] = {
     {"+CCWA", &Profile::callWaiting, {0, 1}},
     {"+CREG", &Profile::registrationNotices, {0, 2}},
     {"+SPEAKER", &Profile::speaker, {0, 1}},
-    {"+IPR", &Profile::speed, {0, 115200}},
+    {"+VGR", &Profile::speakerGain, {0, 255}},
+    {"+VGT", &Profile::microphoneGain, {0, 255}},
+    {"+ECHO.mode", &Profile::echoMode, {0, 1}},
+    {"+ECHO.algorithm", &Profile::echoAlgorithm, {1, 3, 2}},
+    {"+ECHO.volume", &Profile::echoVolume, {0, 15}},
+    {"+ECHO.step", &Profile::echoStep, {0, 7}},
+    {"+ECHO.relative", &Profile::echoRelativeThreshold, {0, 31}},
+    {"+ECHO.highest", &Profile::echoHighestThreshold, {0, 31}},
+    {"+ECHO.parameter", &Profile::echoParameter, {0, 63}},
+    {"+ECHO.noise", &Profile::echoNoiseThreshold, {0, 32767}},
+    {"+ECHO.taps", &Profile::echoTaps, {64, 256}},
+    {"+SIDET.mode", &Profile::sideTone, {0, 1}},
+    {"+SIDET.level", &Profile::sideToneLevel, {0, 3}},
+    {"+VTD", &Profile::toneLength, {0, 255}},
+    {"+CBST.speed", &Profile::bearerSpeed, {0, 75}, isBearerSpeed},
+    {"+CBST.name", &Profile::bearerName, {0, 0}},
+    {"+CBST.element", &Profile::bearerElement, {0, 3}},
+    {"%C", &Profile::compression, {0, 2, 2}},
+    {"\\N", &Profile::errorCorrection, {0, 5}, isErrorCorrection},
+    {"+FCLASS", &Profile::serviceClass, {0, 2}},
+    {"+IPR", &Profile::speed, {0, 115200}, isSpeedOrAny},
     {"+ICF.framing", &Profile::framing, {0, 6}},
     {"+ICF.parity", &Profile::parity, {0, 4}},
     {"+IFC.host", &Profile::hostFlowControl, {0, 2, 2}},

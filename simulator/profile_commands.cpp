@@ -18,15 +18,21 @@ Reply storeProfile(ModemState& state, const Command& command) {
 
 Reply restoreFactory(ModemState& state, const Command& command) {
   if (!namesProfileZero(command)) return error();
-  return state.settings.restoreFactory() ? ok() : error(EquipmentError::kNotAllowed);
+  if (!state.settings.restoreFactory()) return error(EquipmentError::kNotAllowed);
+  Reply reply = ok();
+  reply.afterwards.push_back([&state] { state.applyFraming(); });
+  return reply;
 }
 
-// As with AT+IPR, another speed waits for the OK.
+// As with AT+IPR, another speed waits for the OK, and so does another framing.
 Reply reloadProfile(ModemState& state, const Command& command) {
   if (!namesProfileZero(command)) return error();
   state.settings.reloadProfile();
   Reply reply = ok();
-  reply.afterwards.push_back([&state] { state.changeSpeed(state.settings.profile.speed); });
+  reply.afterwards.push_back([&state] {
+    state.applyFraming();
+    state.changeSpeed(state.settings.profile.speed);
+  });
   return reply;
 }
 

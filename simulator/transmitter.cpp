@@ -35,13 +35,15 @@ void Transmitter::startNext() {
   sending_ = !queue_.empty();
   if (!sending_) return;
   const Chunk& chunk = queue_.front().chunk;
-  timeline_.after(chunk.pause + lineTime(chunk.bytes.size(), speed_), [this] { finishFirst(); });
+  const auto time = lineTime(chunk.bytes.size(), speed_, framing_.bits);
+  timeline_.after(chunk.pause + time, [this] { finishFirst(); });
 }
 
 void Transmitter::finishFirst() {
-  const Item item = std::move(queue_.front());
+  Item item = std::move(queue_.front());
   queue_.pop_front();
   queuedBytes_ -= item.chunk.bytes.size();
+  for (char& byte : item.chunk.bytes) byte = static_cast<char>(byte & mask());
   if (!item.chunk.bytes.empty()) sink_(item.chunk.bytes);
   if (item.sent) item.sent();
   startNext();

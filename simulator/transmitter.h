@@ -8,6 +8,7 @@
 
 #include "simulator/cutter.h"
 #include "simulator/fault_chain.h"
+#include "simulator/framing.h"
 #include "simulator/timeline.h"
 #include "simulator/transmission.h"
 
@@ -32,6 +33,13 @@ class Transmitter {
   int speed() const { return speed_; }
   void setSpeed(int speed) { speed_ = speed; }
 
+  // Counts from the next chunk on, too.
+  const Framing& framing() const { return framing_; }
+  void setFraming(const Framing& framing) { framing_ = framing; }
+
+  // What the framing leaves of a byte.
+  int mask() const { return framing_.dataBits == 8 ? 0xFF : 0x7F; }
+
   // Queues `bytes` behind all that was sent before, and calls `sent` once the last of them has
   // left. Replies and unsolicited lines fall into pieces as the cutter says, echo and what the
   // console says don't. When more than 64 KiB are waiting, the bytes are lost, as in a real modem's
@@ -52,6 +60,7 @@ class Transmitter {
   Cutter cutter_;
   FaultChain faults_;
   int speed_ = 9600;
+  Framing framing_;
   std::deque<Item> queue_;
   std::size_t queuedBytes_ = 0;
   bool sending_ = false;

@@ -60,10 +60,11 @@ std::size_t PseudoTerminal::write(std::string_view bytes) {
   return count > 0 ? static_cast<std::size_t>(count) : 0;
 }
 
-int PseudoTerminal::speed() const {
+std::optional<int> PseudoTerminal::speed() const {
   termios settings{};
   if (::tcgetattr(slave_.number(), &settings) != 0) return 0;
   const speed_t code = ::cfgetospeed(&settings);
+  if (code == B0) return std::nullopt;
   for (const auto& [known, speed] : kSpeeds) {
     if (known == code) return speed;
   }

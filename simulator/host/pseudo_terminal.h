@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,8 +29,8 @@ class PseudoTerminal {
   std::size_t write(std::string_view bytes);
 
   // The speed to which the program has set its end, in bits per second; 0 for one that no serial
-  // modem has.
-  int speed() const;
+  // modem has, and nothing for B0, which a program leaves there when it sets no speed.
+  std::optional<int> speed() const;
 
  private:
   Descriptor master_;

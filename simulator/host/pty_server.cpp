@@ -19,6 +19,9 @@ using std::chrono::nanoseconds;
 // Beyond this, what nobody reads is lost, as at a real port without flow control.
 constexpr std::size_t kMostOutput = 64 * 1024;
 
+// Of a host that never set a speed, at a modem that takes any.
+constexpr int kUsualSpeed = 115200;
+
 constexpr nanoseconds kIdle = std::chrono::hours(1);
 
 constexpr short kReadable = POLLIN | POLLHUP | POLLERR;
@@ -81,18 +84,24 @@ bool PtyServer::step(nanoseconds longest) {
   return !ended_;
 }
 
+// A host that never set a speed is taken to have the modem's own.
+int PtyServer::hostSpeed() const {
+  const bool any = modem_.speed() == simulator::kAutobaud;
+  return terminal_->speed().value_or(any ? kUsualSpeed : modem_.speed());
+}
+
 // A host that listens at another speed than the modem sends at gets nothing from it but noise, and
 // here not even that.
 void PtyServer::deliver(std::string_view chunk) {
   if (!terminal_) return;
-  if (modem_.speed() != simulator::kAutobaud && modem_.speed() != terminal_->speed()) return;
+  if (modem_.speed() != simulator::kAutobaud && modem_.speed() != hostSpeed()) return;
   output_ += chunk.substr(0, kMostOutput - std::min(kMostOutput, output_.size()));
   writePort();
 }
 
 void PtyServer::readPort() {
   const std::string bytes = terminal_->read();
-  if (!bytes.empty()) modem_.hostWrites(bytes, terminal_->speed());
+  if (!bytes.empty()) modem_.hostWrites(bytes, hostSpeed());
 }
 
 void PtyServer::writePort() { output_.erase(0, terminal_->write(output_)); }

@@ -52,6 +52,7 @@ class PtyServer {
  private:
   void plugIn();
   void plugOut();
+  int hostSpeed() const;
   void deliver(std::string_view chunk);
   void readPort();
   void writePort();

@@ -165,6 +165,7 @@ TEST(Console, StateShowsHowThingsStand) {
             "faults: none\n"
             "sim: pin, 2 PIN and 10 PUK tries left\n"
             "network: registration 0, signal 17,0\n"
+            "module: power on, battery 5, voice mail off, pins 00000000, cell 7066\n"
             "phone book: 8 of 250\n"
             "calls: none");
 }
@@ -186,14 +187,26 @@ TEST(Console, QuitIsPassedOn) {
 TEST(Console, HelpHasOneLineForEveryCommand) {
   const std::string help = "\n" + consoleHelp();
   for (const char* name :
-       {"signal",  "register",  "phonebook", "sim",      "ring",     "wait", "giveup",
-        "answer",  "busy",      "hangup",    "silent",   "unplug",   "plug", "say",
-        "line",    "echo",      "speed",     "fault",    "state",    "help", "quit",
-        "message", "broadcast", "report",    "messages", "services", "bar",  "lock"}) {
+       {"signal",  "register",  "phonebook", "sim",       "ring",     "wait", "giveup",
+        "answer",  "busy",      "hangup",    "silent",    "unplug",   "plug", "say",
+        "line",    "echo",      "speed",     "fault",     "state",    "help", "quit",
+        "message", "broadcast", "report",    "messages",  "services", "bar",  "lock",
+        "pin",     "power",     "battery",   "voicemail", "cell"}) {
     EXPECT_NE(help.find("\n" + std::string(name) + " "), std::string::npos) << name;
   }
   Bench bench;
   EXPECT_EQ("\n" + bench.modem.console("help"), help);
+}
+
+TEST(Console, HelpTellsWhichCommandsFollowTheStandardAlone) {
+  const std::string help = consoleHelp();
+  const std::string last = help.substr(help.rfind('\n') + 1);
+  EXPECT_TRUE(last.starts_with("answered by the AT standard alone: "));
+  for (const char* name :
+       {"AT+FCLASS", "AT+FTM", "AT+FRM", "AT+CGDCONT", "AT+CBC", "AT+COPS", "AT+CGREG"}) {
+    EXPECT_NE((last + " ").find(" " + std::string(name) + " "), std::string::npos) << name;
+  }
+  EXPECT_EQ(last.find("AT+CSQ"), std::string::npos);
 }
 
 TEST(Console, RefusesWhatItDoesntKnowAndChangesNothing) {

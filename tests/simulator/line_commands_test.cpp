@@ -91,6 +91,64 @@ TEST(LineCommands, FramingHoldsItsTwoValues) {
   EXPECT_EQ(bench.ask("AT+ICF?"), withOk("+ICF: 5,1"));
 }
 
+struct FramingRow {
+  const char* name;
+  const char* framing;
+  int bits;
+  const char* card;  // what a name with a byte above 127 looks like
+};
+
+constexpr FramingRow kFramingRows[] = {
+    {"Automatic", "0,4", 10, "J\x81rg"},    {"EightTwoStop", "1,4", 11, "J\x81rg"},
+    {"EightParity", "2,1", 11, "J\x81rg"},  {"EightOneStop", "3,4", 10, "J\x81rg"},
+    {"SevenTwoStop", "4,4", 10, "J\x01rg"}, {"SevenParity", "5,1", 10, "J\x01rg"},
+    {"SevenOneStop", "6,4", 9, "J\x01rg"},
+};
+
+TEST(LineCommands, FramingDecidesHowLongAByteTakesAndWhatIsLeftOfIt) {
+  for (const FramingRow& row : kFramingRows) {
+    Bench bench({.speed = 300, .cutter = Cutter::every(1), .phoneBook = {{1, {"1", "J\x81rg"}}}});
+    bench.hostSpeed = 300;
+    EXPECT_TRUE(bench.ask(std::string("AT+ICF=") + row.framing).ends_with("OK\r\n")) << row.name;
+    bench.ask("ATE0");
+    bench.arrivals.clear();
+    bench.ask("AT");
+    const auto passed = bench.arrivals.back() - bench.arrivals.front();
+    EXPECT_NEAR(std::chrono::duration<double>(passed).count(), 5 * row.bits / 300.0, 1e-6)
+        << row.name;
+    bench.modem.console("speed 9600");
+    bench.hostSpeed = 9600;
+    EXPECT_EQ(bench.ask("AT+CPBR=1"),
+              withOk("+CPBR: 1,\"1\",129,\"" + std::string(row.card) + "\""))
+        << row.name;
+  }
+}
+
+TEST(LineCommands, OldFramingHoldsUntilTheLastByteOfTheOk) {
+  Bench bench({.speed = 300, .cutter = Cutter::every(1)});
+  bench.hostSpeed = 300;
+  bench.ask("ATE0");
+  bench.arrivals.clear();
+  bench.ask("AT+ICF=6,4");
+  const auto passed = bench.arrivals.back() - bench.arrivals.front();
+  EXPECT_NEAR(std::chrono::duration<double>(passed).count(), 5 * 10 / 300.0, 1e-6);
+}
+
+TEST(LineCommands, SevenBitsAreHeardAsSeven) {
+  Bench bench;
+  bench.ask("AT+ICF=6,4");
+  EXPECT_EQ(bench.write("\xC1\xD4\x8D"), "AT\r\r\nOK\r\n");
+}
+
+TEST(LineCommands, FramingOfTheStoredProfileComesBackWithIt) {
+  for (const char* command : {"ATZ", "AT&F"}) {
+    Bench bench;
+    bench.ask("AT+ICF=6,4");
+    EXPECT_EQ(bench.ask(command), kOk);
+    EXPECT_EQ(bench.write("\xC1\xD4\x8D"), "\xC1\xD4\x8D") << command;
+  }
+}
+
 TEST(LineCommands, FlowControlIsNoneOrByWire) {
   Bench bench;
   EXPECT_EQ(bench.ask("AT+IFC?"), withOk("+IFC: 2,2"));

@@ -23,9 +23,10 @@ TEST(ProfileCommands, ShowTheFactoryProfileByteForByte) {
 TEST(ProfileCommands, ShowWhatWasSet) {
   Bench bench;
   bench.ask("ATS0=7;+CRC=1;+CMEE=1;+SPEAKER=1;&C0&D2;+ICF=2,0;+IFC=0,2");
+  bench.ask("AT+CBST=71,0,3;+ECHO=1,3;%C0");
   EXPECT_EQ(bench.ask("AT&V"), withOk("Q:0 V:1 S0:007 S2:043 S3:013 S4:010 S5:008\r\n"
-                                      "+CR:0 +CRC:1 +CMEE:1 +CBST:0,0,1\r\n"
-                                      "+SPEAKER:1 +ECHO:0,1 &C:0 &D:2 %C:2\r\n"
+                                      "+CR:0 +CRC:1 +CMEE:1 +CBST:71,0,3\r\n"
+                                      "+SPEAKER:1 +ECHO:1,3 &C:0 &D:2 %C:0\r\n"
                                       "+IPR:9600 +ICF:2,0 +IFC:0,2"));
 }
 
@@ -35,6 +36,20 @@ TEST(ProfileCommands, ReloadBringsTheStoredProfileBack) {
   bench.ask("AT+CRC=0;+SPEAKER=1");
   EXPECT_EQ(bench.ask("ATZ"), kOk);
   EXPECT_EQ(bench.ask("AT+CRC?;+SPEAKER?"), "\r\n+CRC: 1\r\n\r\n+SPEAKER: 0\r\n\r\nOK\r\n");
+}
+
+TEST(ProfileCommands, LineConfigurationIsKeptByStoring) {
+  Bench bench;
+  bench.ask("AT+ICF=5,1;+IFC=0,0;&C0&D2&S1");
+  bench.ask("AT+VGR=64;+VGT=64;+ECHO=1,3,1,2,100;+SIDET=0,2;+VTD=5;+CBST=7,0,0;+FCLASS=1");
+  bench.ask("AT%C0\\N5");
+  bench.ask("ATE0");
+  EXPECT_EQ(bench.ask("AT&W"), kOk);
+  EXPECT_EQ(bench.ask("AT+ICF=3,4;+IFC=2,2;+VGR=0;+ECHO=0,1;+VTD=0;%C2\\NE1Z"), kOk);
+  EXPECT_EQ(bench.write("AT+ICF?;+IFC?;+VGR?;+ECHO?;+SIDET?;+VTD?;+CBST?;+FCLASS?;%C?\\N?\r"),
+            "\r\n+ICF: 5,1\r\n\r\n+IFC: 0,0\r\n\r\n+VGR: 64\r\n\r\n+ECHO: 1,3,1,2,100\r\n"
+            "\r\n+SIDET: 0,2\r\n\r\n+VTD: 5\r\n\r\n+CBST: 7,0,0\r\n\r\n+FCLASS: 1\r\n"
+            "\r\n0\r\n\r\n5\r\n\r\nOK\r\n");
 }
 
 TEST(ProfileCommands, ReloadedSpeedStartsBehindTheOk) {

@@ -27,8 +27,9 @@ TEST(StoredSettings, KeysLeftOutKeepTheirFactoryValues) {
 }
 
 TEST(StoredSettings, NoiseIsRefusedAsAWhole) {
-  for (const char* noise : {"hello", "+CRC", "+CRC=", "+CRC=2", "+CRC=1x", "=1", "NONE=1",
-                            "+IPR=1234", "+IFC.host=1", "+WIND=40000", "+CRC=1\n\x01\xFF"}) {
+  for (const char* noise :
+       {"hello", "+CRC", "+CRC=", "+CRC=2", "+CRC=1x", "=1", "NONE=1", "+IPR=1234", "+CBST.speed=9",
+        "\\N=3", "+IFC.host=1", "+WIND=40000", "+CRC=1\n\x01\xFF"}) {
     EXPECT_EQ(parseStoredSettings(noise), std::nullopt) << noise;
   }
 }
@@ -65,6 +66,7 @@ TEST(Settings, AssumedSpeedIsWhereAReloadGoesBackTo) {
 }
 
 TEST(Range, ListsPairsAndRanges) {
+  EXPECT_EQ((Range{0, 0}.listing()), "(0)");
   EXPECT_EQ((Range{0, 1}.listing()), "(0,1)");
   EXPECT_EQ((Range{0, 2, 2}.listing()), "(0,2)");
   EXPECT_EQ((Range{0, 3}.listing()), "(0-3)");

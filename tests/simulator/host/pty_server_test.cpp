@@ -83,6 +83,17 @@ TEST_F(PtyServerTest, HearsNothingAtASpeedThatNoModemHas) {
   EXPECT_EQ(serve(server, host), "");
 }
 
+TEST_F(PtyServerTest, SpeedThatWasNeverSetCountsAsTheModemsOwn) {
+  for (const int speed : {19200, 115200, simulator::kAutobaud}) {
+    PtyServer server(store_, options(speed));
+    SerialHost host(link_, B0);
+    host.write("AT\r");
+    EXPECT_EQ(serveUntil(server, host, "OK\r\n"), "AT\r\r\nOK\r\n") << speed;
+    server.console("line RING");
+    EXPECT_EQ(serveUntil(server, host, "RING\r\n"), "\r\nRING\r\n") << speed;
+  }
+}
+
 TEST_F(PtyServerTest, FollowsTheModemToAnotherSpeed) {
   PtyServer server(store_, options());
   SerialHost host(link_, B9600);
