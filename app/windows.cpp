@@ -27,7 +27,7 @@ Windows::Windows(Platform& machine)
 void end(Panel& panel) {
   panel.platform.handlers.run([&panel] {
     try {
-      panel.form1.Command8_Click();
+      panel.form1.exit();
     } catch (const RuntimeFailure&) {
       // The port may be gone.
     }
