@@ -55,6 +55,7 @@ void SerialControl::setOpen(bool open) {
 void SerialControl::write(std::string_view bytes) {
   if (!open_) throw failure::invalidUnlessOpen();
   platform_.serialDevice.write(bytes);
+  platform_.handlers.noteWrite();
 }
 
 std::string SerialControl::Input() {

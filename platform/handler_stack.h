@@ -16,8 +16,10 @@ class HandlerStack {
   /// At this depth the serial control holds its receive event back, so that a modem that never
   /// stops talking can't run the program out of stack.
   static constexpr int kDeepest = 200;
-  /// And when the stack has been so deep for so long: each line of a device that says one now and
-  /// then keeps all handlers underneath waiting, and without an end they would wait for minutes.
+  /// And when the stack has been so deep for so long without a word of the program's own: each line
+  /// of a device that says one now and then keeps all handlers underneath waiting, and without an
+  /// end they would wait for minutes. A write begins the time anew, for its reply must come
+  /// through: in a dialogue that arrives in small pieces the stack is deep as well.
   static constexpr int kDeep = 16;
   static constexpr Duration kLong = std::chrono::seconds(10);
 
@@ -34,6 +36,9 @@ class HandlerStack {
   /// Whether receive events wait.
   bool isFull() const;
 
+  /// The program has written to the modem.
+  void noteWrite() { deepSince_ = clock_.now(); }
+
   /// Called each time that the stack has shrunk from full.
   void onRelief(std::function<void()> relief) { relief_ = std::move(relief); }
 
@@ -44,7 +49,7 @@ class HandlerStack {
   MessageBoxes& boxes_;
   Program& program_;
   int depth_ = 0;
-  Instant deepSince_{0};  // when the stack last grew to kDeep
+  Instant deepSince_{0};  // when the stack last grew to kDeep, or the program last wrote
   std::function<void()> relief_;
 };
 

@@ -77,10 +77,11 @@ struct EditRow {
 class TextBoxEdit : public TextBoxTest, public ::testing::WithParamInterface<EditRow> {};
 
 TEST_P(TextBoxEdit, LosesWhatItPutsInBeyondTheLimitAlone) {
-  box().Text = GetParam().before;
-  box().MaxLength = GetParam().limit;
-  EXPECT_TRUE(box().userEdit(GetParam().edit, 0));
-  EXPECT_EQ(box().Text.get(), GetParam().text);
+  TextBox& lines = window.Text3;
+  lines.Text = GetParam().before;
+  lines.MaxLength = GetParam().limit;
+  EXPECT_TRUE(lines.userEdit(GetParam().edit, 0));
+  EXPECT_EQ(lines.Text.get(), GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -197,6 +197,17 @@ TEST_F(TextViewsTest, ATextBeyondALimitThatFellIsNotCutByAnEdit) {
   EXPECT_EQ(window_.Text3.Text.peek(), "123456789");
 }
 
+TEST_F(TextViewsTest, TheCaretStaysWhereAFullBoxRefusesAKey) {
+  window_.Text3.Text = "ab\r\ncdefgh";
+  lines_.moveCursor(QTextCursor::End);
+  lines_.moveCursor(QTextCursor::PreviousCharacter);
+  type(lines_, "xyz");
+  settle();
+  EXPECT_EQ(lines_.toPlainText(), "ab\ncdefgh");
+  EXPECT_EQ(lines_.textCursor().position(), 8);
+  EXPECT_EQ(window_.Text3.SelStart.peek(), 9);
+}
+
 TEST_F(TextViewsTest, ShowingATextIsNoTyping) {
   int changes = 0;
   window_.Text3.Text = "";

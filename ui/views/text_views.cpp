@@ -56,8 +56,13 @@ void TextView::take() {
 // What the panel won't have of the text (characters that it lacks, more than the limit) goes from
 // the widget first: once handlers run, there may be newer text in it.
 bool TextView::takeNow() {
-  const std::string text = control_.admitted(forPanel(shownText()));
+  const std::string held = forPanel(shownText());
+  const std::string text = control_.admitted(held);
+  const int refused = static_cast<int>(held.size() - text.size());
+  const auto kept = static_cast<std::size_t>(std::max(caret() - refused, 0));
   showText(text);
+  // The caret goes back over what was refused.
+  if (refused > 0) setCaret(static_cast<int>(forWidget(text.substr(0, kept)).size()));
   const bool done = control_.userEdit(text, caret());
   // What the control took may be less; what has been typed meanwhile takes a turn of its own.
   if (shownText() == forWidget(text)) showText(control_.Text.peek());
@@ -109,6 +114,8 @@ void LineView::insert(const QString& text) {
 
 int LineView::caret() const { return widget_.cursorPosition(); }
 
+void LineView::setCaret(int position) { widget_.setCursorPosition(position); }
+
 void LineView::setLimit(int length) { widget_.setMaxLength(length > 0 ? length : kNoLimit); }
 
 LinesView::LinesView(TextBox& control, QPlainTextEdit& widget, const UserActions& actions)
@@ -131,9 +138,7 @@ void LinesView::setShownText(const QString& text) {
   const QSignalBlocker quiet(widget_);
   const int position = widget_.textCursor().position();
   widget_.setPlainText(text);
-  QTextCursor cursor = widget_.textCursor();
-  cursor.setPosition(std::min(position, static_cast<int>(text.size())));
-  widget_.setTextCursor(cursor);
+  setCaret(std::min(position, static_cast<int>(text.size())));
 }
 
 void LinesView::insert(const QString& text) { widget_.insertPlainText(text); }
@@ -141,6 +146,12 @@ void LinesView::insert(const QString& text) { widget_.insertPlainText(text); }
 int LinesView::caret() const {
   const QString before = shownText().left(widget_.textCursor().position());
   return static_cast<int>(forPanel(before).size());
+}
+
+void LinesView::setCaret(int position) {
+  QTextCursor cursor = widget_.textCursor();
+  cursor.setPosition(position);
+  widget_.setTextCursor(cursor);
 }
 
 }  // namespace gsm

@@ -31,8 +31,9 @@ class TextView : public ControlView {
   // Leaves the caret where it is, as far as the new text goes.
   virtual void setShownText(const QString& text) = 0;
   virtual void insert(const QString& text) = 0;
-  virtual int caret() const = 0;
-  virtual void setLimit(int length) = 0;  // 0: none
+  virtual int caret() const = 0;            // in characters of the panel's form
+  virtual void setCaret(int position) = 0;  // in those of Qt's
+  virtual void setLimit(int length) = 0;    // 0: none
 
  private:
   bool takeNow();
@@ -53,6 +54,7 @@ class LineView : public TextView {
   void setShownText(const QString& text) override;
   void insert(const QString& text) override;
   int caret() const override;
+  void setCaret(int position) override;
   void setLimit(int length) override;
 
  private:
@@ -71,6 +73,7 @@ class LinesView : public TextView {
   void setShownText(const QString& text) override;
   void insert(const QString& text) override;
   int caret() const override;
+  void setCaret(int position) override;
   void setLimit(int) override {}  // the control cuts what is taken, and shows it cut
 
  private:

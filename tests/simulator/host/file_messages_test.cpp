@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "tests/simulator/scratch_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace gsm::pty {
 namespace {
@@ -14,21 +14,21 @@ using simulator::MessageEntries;
 using simulator::MessageStatus;
 
 TEST(FileMessages, GivesBackWhatWasSaved) {
-  const ScratchFolder folder;
-  const FileMessages messages(folder.file("messages"));
+  const TemporaryFolder folder;
+  const FileMessages messages((folder.path() / "messages").string());
   EXPECT_TRUE(messages.save("3\tSTO UNSENT\t0123\t\tone\\r\\ntwo\n"));
   EXPECT_EQ(messages.load(),
             (MessageEntries{{3, {MessageStatus::kStoredUnsent, "0123", "", "one\r\ntwo"}}}));
 }
 
 TEST(FileMessages, NoFileIsAFreshCard) {
-  const ScratchFolder folder;
-  EXPECT_EQ(FileMessages(folder.file("none")).load(), simulator::factoryMessages());
+  const TemporaryFolder folder;
+  EXPECT_EQ(FileMessages((folder.path() / "none").string()).load(), simulator::factoryMessages());
 }
 
 TEST(FileMessages, UnreadableLinesAreToldAndPassedOver) {
-  const ScratchFolder folder;
-  const std::string path = folder.file("messages");
+  const TemporaryFolder folder;
+  const std::string path = (folder.path() / "messages").string();
   std::ofstream(path) << "noise\n3\tSTO UNSENT\t0123\t\tone\n";
   testing::internal::CaptureStderr();
   EXPECT_EQ(FileMessages(path).load().size(), 1u);
@@ -37,10 +37,10 @@ TEST(FileMessages, UnreadableLinesAreToldAndPassedOver) {
 }
 
 TEST(FileMessages, FileThatCantBeReadIsRefusedAndOneThatCantBeWrittenTold) {
-  const ScratchFolder folder;
-  std::filesystem::create_directory(folder.file("messages"));
-  EXPECT_THROW(FileMessages(folder.file("messages")).load(), std::runtime_error);
-  const std::string elsewhere = folder.file("none/messages");
+  const TemporaryFolder folder;
+  std::filesystem::create_directory((folder.path() / "messages").string());
+  EXPECT_THROW(FileMessages((folder.path() / "messages").string()).load(), std::runtime_error);
+  const std::string elsewhere = (folder.path() / "none/messages").string();
   testing::internal::CaptureStderr();
   EXPECT_FALSE(FileMessages(elsewhere).save(""));
   EXPECT_EQ(testing::internal::GetCapturedStderr(),
