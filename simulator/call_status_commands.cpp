@@ -18,15 +18,22 @@ int bars(int signal) {
 }
 
 // Battery, signal, service, message, call, roaming, message store full.
+bool holdsUnread(const MessageStore& store) {
+  return std::any_of(store.entries().begin(), store.entries().end(), [](const auto& entry) {
+    return entry.second.status == MessageStatus::kReceivedUnread;
+  });
+}
+
 Reply queryIndicators(ModemState& state, const Command& command) {
   const Network& network = state.network;
+  const MessageStore& card = state.messages.card;
   const int values[] = {state.module.battery,
                         bars(network.signal),
                         network.hasService() ? 1 : 0,
-                        0,
+                        holdsUnread(card) ? 1 : 0,
                         state.calls.all().empty() ? 0 : 1,
                         network.registration() == kRoaming ? 1 : 0,
-                        0};
+                        card.firstFree() ? 0 : 1};
   std::string text;
   for (const int value : values) text += (text.empty() ? "" : ",") + std::to_string(value);
   return ok(headed(command, text));

@@ -57,7 +57,8 @@ TEST(MessageConsole, MessagesShowsTheCards) {
 
 TEST(MessageConsole, HelpNamesTheCommandsThatFollowTheStandardAlone) {
   EXPECT_TRUE(Bench().modem.console("help").ends_with(
-      "\nanswered by the AT standard alone: AT+CLCC AT+CPAS AT+CSCA AT+CSCB AT+CMGL AT+CCUG"));
+      "\nanswered by the AT standard alone: AT+CLCC AT+CPAS AT+CSCA AT+CSCB AT+CMGL AT+CCUG "
+      "AT+FCLASS AT+FTM AT+FRM AT+CBC AT+COPS AT+CGREG AT+CGATT AT+CIMI AT+CGDCONT"));
 }
 
 }  // namespace
