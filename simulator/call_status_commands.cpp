@@ -27,13 +27,14 @@ bool holdsUnread(const MessageStore& store) {
 Reply queryIndicators(ModemState& state, const Command& command) {
   const Network& network = state.network;
   const MessageStore& card = state.messages.card;
+  const bool hasCard = state.sim.status() == SimStatus::kReady;
   const int values[] = {state.module.battery,
                         bars(network.signal),
                         network.hasService() ? 1 : 0,
-                        holdsUnread(card) ? 1 : 0,
+                        hasCard && holdsUnread(card) ? 1 : 0,
                         state.calls.all().empty() ? 0 : 1,
                         network.registration() == kRoaming ? 1 : 0,
-                        card.firstFree() ? 0 : 1};
+                        hasCard && !card.firstFree() ? 1 : 0};
   std::string text;
   for (const int value : values) text += (text.empty() ? "" : ",") + std::to_string(value);
   return ok(headed(command, text));

@@ -7,7 +7,7 @@ namespace {
 
 TEST(CallStatusCommands, IndicatorsAreSevenDigits) {
   Bench bench;
-  EXPECT_EQ(bench.write("AT+CIND?\r"), "AT+CIND?\r\r\n+CIND: 5,2,1,0,0,0,0\r\n\r\nOK\r\n");
+  EXPECT_EQ(bench.write("AT+CIND?\r"), "AT+CIND?\r\r\n+CIND: 5,2,1,1,0,0,0\r\n\r\nOK\r\n");
   EXPECT_EQ(bench.ask("AT+CIND=?"),
             withOk("+CIND: (\"battchg\",(0-5)),(\"signal\",(0-5)),(\"service\",(0,1)),"
                    "(\"message\",(0,1)),(\"call\",(0,1)),(\"roam\",(0,1)),(\"smsfull\",(0-2))"));
@@ -17,9 +17,9 @@ TEST(CallStatusCommands, IndicatorsAreSevenDigits) {
 TEST(CallStatusCommands, IndicatorsFollowTheNetwork) {
   Bench bench;
   const std::pair<const char*, const char*> kValues[] = {
-      {"signal 0", "5,0,1,0,0,0,0"},   {"signal 31", "5,5,1,0,0,0,0"},
-      {"signal 60", "5,5,1,0,0,0,0"},  {"signal 99", "5,0,1,0,0,0,0"},
-      {"register 5", "5,0,1,0,0,1,0"}, {"register 0", "5,0,0,0,0,0,0"},
+      {"signal 0", "5,0,1,1,0,0,0"},   {"signal 31", "5,5,1,1,0,0,0"},
+      {"signal 60", "5,5,1,1,0,0,0"},  {"signal 99", "5,0,1,1,0,0,0"},
+      {"register 5", "5,0,1,1,0,1,0"}, {"register 0", "5,0,0,1,0,0,0"},
   };
   for (const auto& [line, values] : kValues) {
     bench.modem.console(line);
@@ -29,8 +29,8 @@ TEST(CallStatusCommands, IndicatorsFollowTheNetwork) {
 
 TEST(CallStatusCommands, FollowAnIncomingCallFromItsFirstRingToItsEnd) {
   Bench bench;
-  const char* const kCall = "+CIND: 5,2,1,0,1,0,0";
-  const char* const kNoCall = "+CIND: 5,2,1,0,0,0,0";
+  const char* const kCall = "+CIND: 5,2,1,1,1,0,0";
+  const char* const kNoCall = "+CIND: 5,2,1,1,0,0,0";
   bench.modem.console("ring 0123");
   bench.listen();
   EXPECT_EQ(bench.ask("AT+CIND?"), withOk(kCall));

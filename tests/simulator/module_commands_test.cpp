@@ -118,7 +118,7 @@ TEST(ModuleCommands, BatteryIsAnIndicatorAndInHundredths) {
   EXPECT_EQ(bench.ask("AT+CBC"), withOk("+CBC: 0,100"));
   EXPECT_EQ(bench.modem.console("battery 3"), "");
   EXPECT_EQ(bench.ask("AT+CBC"), withOk("+CBC: 0,60"));
-  EXPECT_EQ(bench.ask("AT+CIND?"), withOk("+CIND: 3,2,1,0,0,0,0"));
+  EXPECT_EQ(bench.ask("AT+CIND?"), withOk("+CIND: 3,2,1,1,0,0,0"));
   EXPECT_EQ(bench.ask("AT+CBC=?"), withOk("+CBC: (0),(0-100)"));
 }
 

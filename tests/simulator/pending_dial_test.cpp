@@ -34,7 +34,7 @@ TEST_F(PendingDial, LeavesTheConsoleItsWork) {
 TEST_F(PendingDial, KeepsFurtherCommandsUntilItsResult) {
   EXPECT_EQ(bench_.write("AT+CIND?\rAT+VTS=5\r"), "");
   EXPECT_EQ(bench_.listen(seconds(2)),
-            "\r\nOK\r\nAT+CIND?\r\r\n+CIND: 5,2,1,0,1,0,0\r\n\r\nOK\r\nAT+VTS=5\r\r\nOK\r\n");
+            "\r\nOK\r\nAT+CIND?\r\r\n+CIND: 5,2,1,1,1,0,0\r\n\r\nOK\r\nAT+VTS=5\r\r\nOK\r\n");
 }
 
 TEST_F(PendingDial, IsntEndedByAnyOtherByte) {
