@@ -11,8 +11,8 @@
 #include <string>
 
 #include "app/windows.h"
-#include "panel/form7.h"
 #include "panel/form1.h"
+#include "panel/form7.h"
 #include "tests/support/desktop/desktop_fixture.h"
 #include "ui/views/window_view.h"
 
