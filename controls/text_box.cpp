@@ -9,6 +9,9 @@
 namespace gsm {
 namespace {
 
+constexpr int kEnter = 13;
+constexpr std::string_view kLineEnd = "\r\n";
+
 bool isLineBreak(char character) { return character == '\r' || character == '\n'; }
 bool isControl(int code) { return code < ' ' || code == 0x7F; }
 
@@ -51,10 +54,15 @@ void TextBox::moveCaret(int position) {
 
 bool TextBox::userType(std::string_view keys) {
   if (!isReachable()) return false;
-  for (const char key : keys) {
+  for (std::size_t i = 0; i < keys.size(); ++i) {
     if (!isReachable()) return false;  // a handler of the key before may have hidden the box
-    if (!multiLine_ && isLineBreak(key)) break;
-    typeKey(static_cast<unsigned char>(key));
+    if (!isLineBreak(keys[i])) {
+      typeKey(static_cast<unsigned char>(keys[i]));
+      continue;
+    }
+    if (!multiLine_) break;
+    typeKey(kEnter);
+    if (keys.substr(i, 2) == kLineEnd) ++i;
   }
   return true;
 }
@@ -66,9 +74,13 @@ void TextBox::typeKey(int key) {
   if (key == 0) return;
   if (key == kBackspace) {
     if (text.empty()) return;
-    text.pop_back();
+    text.resize(text.size() - (text.ends_with(kLineEnd) ? kLineEnd.size() : 1));
   } else {
-    text += static_cast<char>(key);
+    if (key == kEnter) {
+      text += kLineEnd;
+    } else {
+      text += static_cast<char>(key);
+    }
     if (text != cut(text)) return;  // a full box takes no more keys
   }
   const int end = static_cast<int>(text.size());

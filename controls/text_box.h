@@ -46,7 +46,9 @@ class TextBox : public Control {
   // What the user does. False when the box is out of reach. A box that isn't `MultiLine` ends at
   // the first line break and takes no control characters.
 
-  /// Types `keys` at the end of the text, one by one; `kBackspace` takes the last character away.
+  /// Types `keys` at the end of the text, one by one; `kBackspace` takes the last character away,
+  /// or the last line end. A line break ends the typing into a box of one line; in a box of lines
+  /// it is the Enter key, whichever characters it is spelled with, and puts in a whole line end.
   bool userType(std::string_view keys);
   /// Empties the box.
   bool userErase();

@@ -37,6 +37,8 @@ Outcome Conversation::outcome() const {
   return holds("ERROR") ? Outcome::error : Outcome::none;
 }
 
+const std::string& Conversation::text() const { return transcript_.Text; }
+
 void Conversation::clear() { transcript_.clear(); }
 
 Outcome Conversation::report(Label& status, const OutcomeWords& words) const {

@@ -49,6 +49,8 @@ class Conversation {
   /// As `gsm::slice` of the transcript.
   std::string slice(Position start, Position length) const;
   Outcome outcome() const;
+  /// The whole of it, as it stands now.
+  const std::string& text() const;
   void clear();
 
   /// Shows the outcome on `status`, and returns it.

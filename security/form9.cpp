@@ -30,8 +30,10 @@ void Form9::Form_Load() {
 void Form9::readStatus() try {
   Label1.Caption = "Please Wait....";
   modem().exchange("AT+CLCK?");
-  if (modem().holds("+CLCK:")) {
-    for (const LockPage& page : kLockPages) showState(page);
+  // A reference to a window that was closed meanwhile loads it, and that reads a reply of its own.
+  const std::string told = modem().text();
+  if (position("+CLCK:", told) != 0) {
+    for (const LockPage& page : kLockPages) showState(page, told);
   }
   modem().clear();
 } catch (const RuntimeFailure&) {
@@ -40,10 +42,10 @@ void Form9::readStatus() try {
 
 // The digit stands behind the name's closing quote and a comma: ("PS",0). The name is looked for
 // anywhere, and its first place counts.
-void Form9::showState(const LockPage& page) {
-  const Position name = modem().position(page.facility);
+void Form9::showState(const LockPage& page, const std::string& told) {
+  const Position name = position(page.facility, told);
   if (name == 0) return;
-  const std::string digit = modem().slice(name + 4, 1);
+  const std::string digit = slice(told, name + 4, 1);
   Label1.Caption = "";
   const double state = number(digit);
   for (const LockState* each : {&page.unlock, &page.lock}) {

@@ -81,7 +81,7 @@ class Form9 : public FeatureWindow {
 
  private:
   void readStatus();
-  void showState(const LockPage& page);
+  void showState(const LockPage& page, const std::string& told);
   void turnPage();
   void prepare(const LockPage& page);
   void openLock(const LockPage& page);

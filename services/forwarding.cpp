@@ -83,9 +83,11 @@ void Form12::Form_Load() try {
 }
 
 void Form12::ReadForwardReply(int reason) {
-  const Position ok = modem().position("OK");
+  // A reference to a window that was closed meanwhile loads it, and that reads replies of its own.
+  const std::string told = modem().text();
+  const Position ok = position("OK", told);
   if (reason == 0) Label16.Caption = "";
-  if (ok != 0 && modem().holds("+CCFC:")) ParseForwardReply(reason, modem().slice(1, ok + 1));
+  if (ok != 0 && position("+CCFC:", told) != 0) ParseForwardReply(reason, slice(told, 1, ok + 1));
 }
 
 void Form12::ParseForwardReply(int reason, const std::string& reply) {

@@ -291,6 +291,19 @@ TEST_F(TextBoxTest, ABoxOfManyLinesTakesLineEndsAsTyped) {
   EXPECT_EQ(lines().Text.get(), "one\r\ntwo\tthree");
 }
 
+TEST_F(TextBoxTest, EnterPutsAWholeLineEndIntoABoxOfLinesHoweverItIsSpelled) {
+  EXPECT_TRUE(lines().userType("a\nb\rc\r\nd\n\r"));
+  EXPECT_EQ(lines().Text.get(), "a\r\nb\r\nc\r\nd\r\n\r\n");
+  EXPECT_TRUE(lines().userType("\b\b\b"));
+  EXPECT_EQ(lines().Text.get(), "a\r\nb\r\nc\r\n");
+}
+
+TEST_F(TextBoxTest, ALineEndThatOnlyHalfFitsIsRefusedByABoxOfLines) {
+  lines().MaxLength = 2;
+  EXPECT_TRUE(lines().userType("a\nb"));
+  EXPECT_EQ(lines().Text.get(), "ab");
+}
+
 TEST_F(TextBoxTest, EveryControlCharacterIsDroppedOneByOne) {
   for (int code = 0; code < 256; ++code) {
     const char character = static_cast<char>(code);

@@ -239,6 +239,22 @@ TEST_F(LockStatus, ClosingTheWindowMeanwhileLoadsItAnewForTheReply) {
   expectAtRest();
 }
 
+TEST_F(LockStatus, ClosingTheWindowMeanwhileLeavesTheReplyThatWasTakenToBeRead) {
+  openWithWords();
+  const auto locks = [](const std::string& line) {
+    return ModemScript::Reply{{ModemScript::kDefaultDelay, information(line)}};
+  };
+  world().modem.add({.write = "AT+CLCK?\r",
+                     .replies = {locks("+CLCK:(\"PS\",0),(\"SC\",0),(\"PN\",0)"),
+                                 locks("+CLCK:(\"PS\",1),(\"SC\",1),(\"PN\",1)")}});
+  click(form().Command10);
+  run(0.5);
+  closeWindow();
+  settle();
+  EXPECT_EQ(caption(form().Label6), "Current Status:PIN Deactivated");
+  EXPECT_EQ(caption(form().Label10), "Current Status:NetWork UNlocked");
+}
+
 class LockStatusAtMidnight : public LockStatus {
  protected:
   void SetUp() override { startWithOpenPort({2026, 3, 1, 23, 59, 50}); }

@@ -29,6 +29,19 @@ TEST_F(OvertakenServices, ATabInTheMiddleOfALoadReadsOnTopOfIt) {
   expectAtRest();
 }
 
+// The window is loaded anew by the reference in the middle of the reading, which empties the
+// transcript; the reply that the reading has taken goes on to be read.
+TEST_F(OvertakenServices, AWindowClosedInTheMiddleOfALoadShowsTheReplyThatWasTakenOnceMore) {
+  openWindow();
+  reply("AT+CCFC=0,2", information("+CCFC: 0,1"));
+  clickTab(forwarding);
+  run(0.2);
+  inPanel([this] { form().userClose(); });
+  settle();
+  const std::string once = "UNCONDITIONAL-Call Forward Not Active For Voice ";
+  EXPECT_EQ(forwardingShown()[0], once + once);
+}
+
 TEST_F(OvertakenServices, AnotherPageInTheMiddleOfALoadIsReadFirst) {
   reply("AT+CCUG?", information("+CCUG: 1,1,0"));
   beginLoad();

@@ -43,8 +43,11 @@ void dressApplication() {
   describeForms();
   // The window first: desktops want the icon in several sizes, each drawn anew.
   constexpr std::chrono::milliseconds kLittleLater{200};
-  QTimer::singleShot(kLittleLater, qApp,
-                     [] { QApplication::setWindowIcon(QIcon(":/icons/gsm-application.svg")); });
+  auto* const later = new QTimer(qApp);
+  later->setSingleShot(true);
+  QObject::connect(later, &QTimer::timeout,
+                   [] { QApplication::setWindowIcon(QIcon(":/icons/gsm-application.svg")); });
+  later->start(kLittleLater);
   if (QFile style(":/style.qss"); style.open(QIODevice::ReadOnly)) {
     qApp->setStyleSheet(QString::fromUtf8(style.readAll()));
   }
