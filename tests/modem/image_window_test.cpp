@@ -59,7 +59,7 @@ TEST_F(ImageWindow, StaysUpUntilWhatBeganMeanwhileHasEnded) {
 
 TEST_F(ImageWindow, DropsTheTickThatComesWhileItIsStillUp) {
   enable();
-  for (int i = 0; i < 40; ++i) receive("a", 51 + i * 1.5);  // the last one at 109.5
+  inPanel([this] { form1().Pause(60.5); }, 51);
   run(200);
   EXPECT_EQ(shown_, (Times{50, 150, 200}));
   EXPECT_EQ(hidden_, (Times{111.5, 153}));
