@@ -55,7 +55,7 @@ void SerialControl::setOpen(bool open) {
 void SerialControl::write(std::string_view bytes) {
   if (!open_) throw failure::invalidUnlessOpen();
   platform_.serialDevice.write(bytes);
-  platform_.handlers.noteWrite();
+  lastWrite_ = platform_.clock.now();
 }
 
 std::string SerialControl::Input() {
@@ -64,8 +64,14 @@ std::string SerialControl::Input() {
   return std::exchange(received_, {});
 }
 
+bool SerialControl::holdsBack() const {
+  const HandlerStack& handlers = platform_.handlers;
+  const bool replyIsDue = platform_.clock.now() - lastWrite_ < HandlerStack::kLong;
+  return handlers.isFull() || (handlers.isStuck() && !replyIsDue);
+}
+
 void SerialControl::raise(gsm::CommEvent event) {
-  if (platform_.handlers.isFull()) {
+  if (holdsBack()) {
     held_.insert(event);
   } else {
     run(event);
@@ -87,7 +93,7 @@ void SerialControl::bytesArrived(std::string_view bytes) {
 
 void SerialControl::deliver() {
   const bool due = RThreshold > 0 && received_.size() >= static_cast<std::size_t>(RThreshold);
-  if (due && !platform_.handlers.isFull()) run(gsm::CommEvent::receive);
+  if (due && !holdsBack()) run(gsm::CommEvent::receive);
 }
 
 void SerialControl::deliverLater() {

@@ -93,7 +93,7 @@ class SerialControl : public Object, private SerialDevice::Listener {
   std::function<void()> OnComm;
 
   /// Raises `OnComm` with `event` as its cause: something happened on the line. While the handler
-  /// stack is full the event is held back, each cause once.
+  /// stack is full or stuck the event is held back, each cause once.
   void raise(gsm::CommEvent event);
 
  private:
@@ -112,9 +112,13 @@ class SerialControl : public Object, private SerialDevice::Listener {
   void bytesLeft(std::size_t waiting) override;
   void lineEvent(gsm::CommEvent event) override { raise(event); }
 
+  // Whether events of the line wait until the handler stack has shrunk: while it is full, and while
+  // it is stuck. A stack in which somebody has sent a command of late isn't: its reply is waited
+  // for.
+  bool holdsBack() const;
   void run(gsm::CommEvent cause);
-  // Raises the receive event when there is cause, unless the handler stack is full: then the bytes
-  // stay, and come as one larger chunk when the stack has shrunk.
+  // Raises the receive event when there is cause, unless it is held back: then the bytes stay, and
+  // come as one larger chunk when the stack has shrunk.
   void deliver();
   // Once the stack has shrunk, what was held back waits its turn like any other event.
   void deliverLater();
@@ -128,6 +132,7 @@ class SerialControl : public Object, private SerialDevice::Listener {
   bool open_ = false;
   std::string received_;
   std::set<gsm::CommEvent> held_;
+  Instant lastWrite_{0};
   bool deliveryPosted_ = false;
 };
 

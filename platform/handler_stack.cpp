@@ -8,20 +8,18 @@ class HandlerStack::Frame {
     if (++stack_.depth_ == kDeep) stack_.deepSince_ = stack_.clock_.now();
   }
   ~Frame() {
-    const bool wasFull = stack_.isFull();
+    const bool wasFull = isTooMuch();
     --stack_.depth_;
-    if (wasFull && !stack_.isFull() && stack_.relief_) stack_.relief_();
+    if (wasFull && !isTooMuch() && stack_.relief_) stack_.relief_();
   }
   Frame(const Frame&) = delete;
   Frame& operator=(const Frame&) = delete;
 
  private:
+  bool isTooMuch() const { return stack_.isFull() || stack_.isStuck(); }
+
   HandlerStack& stack_;
 };
-
-bool HandlerStack::isFull() const {
-  return depth_ >= kDeepest || (depth_ >= kDeep && clock_.now() - deepSince_ >= kLong);
-}
 
 void HandlerStack::run(const std::function<void()>& handler) {
   const Frame frame(*this);

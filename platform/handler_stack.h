@@ -16,10 +16,8 @@ class HandlerStack {
   /// At this depth the serial control holds its receive event back, so that a modem that never
   /// stops talking can't run the program out of stack.
   static constexpr int kDeepest = 200;
-  /// And when the stack has been so deep for so long without a word of the program's own: each line
-  /// of a device that says one now and then keeps all handlers underneath waiting, and without an
-  /// end they would wait for minutes. A write begins the time anew, for its reply must come
-  /// through: in a dialogue that arrives in small pieces the stack is deep as well.
+  /// When the stack has been so deep for so long it is stuck: each line of a device that says one
+  /// now and then keeps all handlers underneath waiting, and they would wait for minutes.
   static constexpr int kDeep = 16;
   static constexpr Duration kLong = std::chrono::seconds(10);
 
@@ -33,13 +31,10 @@ class HandlerStack {
   void run(const std::function<void()>& handler);
 
   int depth() const { return depth_; }
-  /// Whether receive events wait.
-  bool isFull() const;
+  bool isFull() const { return depth_ >= kDeepest; }
+  bool isStuck() const { return depth_ >= kDeep && clock_.now() - deepSince_ >= kLong; }
 
-  /// The program has written to the modem.
-  void noteWrite() { deepSince_ = clock_.now(); }
-
-  /// Called each time that the stack has shrunk from full.
+  /// Called each time that the stack has shrunk, and is full or stuck no more.
   void onRelief(std::function<void()> relief) { relief_ = std::move(relief); }
 
  private:
@@ -49,7 +44,7 @@ class HandlerStack {
   MessageBoxes& boxes_;
   Program& program_;
   int depth_ = 0;
-  Instant deepSince_{0};  // when the stack last grew to kDeep, or the program last wrote
+  Instant deepSince_{0};  // when the stack last grew to kDeep
   std::function<void()> relief_;
 };
 

@@ -51,6 +51,40 @@ TEST_F(SerialFullStackTest, ADeviceThatSaysALineEachSecondHoldsNoHandlerForLong)
   EXPECT_EQ(received, sent) << "nothing is lost";
 }
 
+TEST_F(SerialFullStackTest, SixteenHandlersHoldTheReceiveEventBackAfterTenSeconds) {
+  open();
+  port.OnComm = [this] {
+    const std::string bytes = port.Input();
+    if (bytes != "+") note(bytes + " at " + std::to_string(static_cast<int>(at())));
+    if (bytes == "+") wait(15);
+  };
+  for (int chunk = 0; chunk < 16; ++chunk) arrive("+");
+  arrive("a", 9.9);
+  arrive("b", 10);
+  arrive("c", 14);
+  settle();
+  EXPECT_EQ(takeNotes(), Notes({"a at 9", "bc at 15"}));
+}
+
+// A reply that comes byte for byte leaves as many handlers, and a dialogue may go on on top of
+// them.
+TEST_F(SerialFullStackTest, AReplyIsNotHeldBack) {
+  open();
+  port.OnComm = [this] {
+    if (port.CommEvent != CommEvent::receive) return;
+    const std::string bytes = port.Input();
+    if (bytes != "+") note(bytes);
+    if (bytes == "+") wait(40);
+  };
+  for (int chunk = 0; chunk < 30; ++chunk) arrive("+");
+  inProgram([this] { port.Output = "AT\r"; }, 20);
+  arrive("held", 19);
+  arrive(" OK", 29.9);
+  arrive("held too", 30.1);
+  settle();
+  EXPECT_EQ(takeNotes(), Notes({"held OK", "held too"}));
+}
+
 TEST_F(SerialFullStackTest, AFloodLosesNoByteAndKeepsTheStackBounded) {
   open();
   std::string received;

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "modem/form20.h"
-#include "panel/form1.h"
 #include "tests/support/open_port_test.h"
 #include "tests/support/property_watch.h"
 
@@ -60,10 +59,7 @@ TEST_F(ImageWindow, StaysUpUntilWhatBeganMeanwhileHasEnded) {
 
 TEST_F(ImageWindow, DropsTheTickThatComesWhileItIsStillUp) {
   enable();
-  inPanel([this] { form1().MSComm1.SThreshold = 0; });
-  for (int i = 0; i < 40; ++i) receive("a", 51 + i * 1.5);  // the last one at 109.5
-  // In the middle of a dialogue: else what is received would be held back.
-  for (int i = 0; i < 12; ++i) inPanel([this] { form1().modem.send("AT"); }, 52 + i * 5);
+  inPanel([this] { form1().Pause(60.5); }, 51);
   run(200);
   EXPECT_EQ(shown_, (Times{50, 150, 200}));
   EXPECT_EQ(hidden_, (Times{111.5, 153}));

@@ -159,29 +159,29 @@ TEST_F(HandlerStackTest, IsFullAtTwoHundred) {
   EXPECT_FALSE(handlers().isFull());
 }
 
-TEST_F(HandlerStackTest, IsFullOnceSixteenHaveBeenOnItForTenSeconds) {
+TEST_F(HandlerStackTest, IsStuckOnceSixteenHaveBeenOnItForTenSeconds) {
   inProgram([this] {
     atDepth(16, [this] {
-      EXPECT_FALSE(handlers().isFull());
+      EXPECT_FALSE(handlers().isStuck());
       wait(9.9);
-      EXPECT_FALSE(handlers().isFull());
+      EXPECT_FALSE(handlers().isStuck());
       wait(0.1);
-      EXPECT_TRUE(handlers().isFull());
-      atDepth(20, [this] { EXPECT_TRUE(handlers().isFull()); });
-      EXPECT_TRUE(handlers().isFull());
+      EXPECT_TRUE(handlers().isStuck());
+      atDepth(20, [this] { EXPECT_TRUE(handlers().isStuck()); });
+      EXPECT_TRUE(handlers().isStuck());
     });
-    EXPECT_FALSE(handlers().isFull());
+    EXPECT_FALSE(handlers().isStuck());
     EXPECT_EQ(at(), 10);
   });
   settle();
-  EXPECT_FALSE(handlers().isFull());
+  EXPECT_FALSE(handlers().isStuck());
 }
 
 TEST_F(HandlerStackTest, FifteenHandlersMayWaitForAsLongAsTheyLike) {
   inProgram([this] {
     atDepth(15, [this] {
       wait(3600);
-      EXPECT_FALSE(handlers().isFull());
+      EXPECT_FALSE(handlers().isStuck());
     });
   });
   settle(7200);
@@ -193,7 +193,7 @@ TEST_F(HandlerStackTest, TheTenSecondsBeginAnewEachTimeThatTheStackGrowsToSixtee
       for (int round = 0; round < 3; ++round) {
         atDepth(16, [this] {
           wait(6);
-          EXPECT_FALSE(handlers().isFull());
+          EXPECT_FALSE(handlers().isStuck());
         });
       }
     });
