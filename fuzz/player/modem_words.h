@@ -14,7 +14,11 @@ std::string saying(Decisions& decisions);
 /// A line for the simulated modem's console.
 std::string consoleLine(Decisions& decisions);
 
-/// The beginnings of the commands that read a phone book, each with an answer to them.
-std::vector<std::pair<std::string, std::string>> bookAnswers();
+/// Keys that a user presses in a box, with control characters among them.
+std::string typing(Decisions& decisions);
+
+/// The beginnings of the commands that ask for the SIM, the phone book, messages, services and
+/// locks, each with an answer to them.
+std::vector<std::pair<std::string, std::string>> goodAnswers();
 
 }  // namespace gsm

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "fuzz/player/modem_words.h"
+#include "fuzz/player/player_user.h"
 #include "panel/form1.h"
 
 namespace gsm {
@@ -14,6 +15,9 @@ namespace {
 
 constexpr int kMostHandlers = 240;  // that this player asks for
 constexpr int kDeepest = 300;       // that the program may have with those of its own
+
+constexpr int kPort = 3;  // where the modem is
+constexpr Duration kStartUp = std::chrono::seconds(40);
 
 constexpr std::array kSpans = {
     Duration(std::chrono::milliseconds(0)),  Duration(std::chrono::milliseconds(3)),
@@ -50,26 +54,35 @@ void PanelPlayer::startAnew(Decisions& decisions) {
 
   if (world_) earlier_ += world_->machine.time.now();
   modem_.reset();
+  transcript_.reset();
+  end_.reset();
   world_.reset();  // its handlers unwind before another's begin
   book_.lay(decisions);
   world_ = std::make_unique<HeadlessPanel>(folder_, LocalTime{2026, 2, 27, 22, 0, 0});
-  world_->machine.ports.set({{.number = 3}, {.number = 5}});
-  world_->machine.line.plug(3);
-  world_->modem.setOtherwise({.replies = {{{ModemScript::kDefaultDelay, "\r\nOK\r\n"}}}});
-  for (const auto& [command, answer] : bookAnswers()) {
-    world_->modem.add({.fit = ModemScript::Rule::Fit::beginning,
-                       .write = command,
-                       .replies = {{{ModemScript::kDefaultDelay, answer}}}});
-  }
+  world_->machine.ports.set({{.number = kPort}, {.number = 5}});
+  world_->machine.line.plug(kPort);
+  teachModem();
   if (decisions.next() % 2 == 0) {
     modem_ = std::make_unique<SimulatedModem>(world_->time(), world_->machine.line,
                                               simulator::ModemOptions{.seed = decisions.next()});
   }
-  userAskedForTheEnd_ = false;
-  boxWasHeld_ = false;
+  transcript_.emplace(world_->machine.line, world_->panel.form1.Text1);
+  end_.emplace(*world_);
   ++starts_;
   world_->start();
-  run(Duration::zero());
+  // Mostly the start-up has its peace, so that there is a panel to play with.
+  run(decisions.next() % 4 == 0 ? Duration::zero() : kStartUp);
+}
+
+// What a modem in good health answers.
+void PanelPlayer::teachModem() {
+  world_->modem.forget();
+  world_->modem.setOtherwise({.replies = {{{ModemScript::kDefaultDelay, "\r\nOK\r\n"}}}});
+  for (const auto& [command, answer] : goodAnswers()) {
+    world_->modem.add({.fit = ModemScript::Rule::Fit::beginning,
+                       .write = command,
+                       .replies = {{{ModemScript::kDefaultDelay, answer}}}});
+  }
 }
 
 void PanelPlayer::step(Decisions& decisions) {
@@ -124,10 +137,13 @@ void PanelPlayer::modemLearns(Decisions& decisions) {
                                .write = decisions.next() % 2 == 0 ? "AT+C" : "AT",
                                .replies = {{{kSpans[decisions.below(6)], saying(decisions)}}},
                                .echo = decisions.next() % 4 != 0};
-  switch (decisions.next() % 4) {
+  switch (decisions.next() % 8) {
     case 0: modem.forget(); break;
     case 1: modem.setOtherwise(rule); break;
-    case 2: modem.setSpeed(decisions.next() % 2 == 0 ? 9600 : 115200); break;
+    case 2: modem.setSpeed(decisions.next() % 4 == 0 ? 115200 : 9600); break;
+    case 3:
+    case 4:
+    case 5: teachModem(); break;
     default: modem.add(rule);
   }
 }
@@ -145,58 +161,26 @@ void PanelPlayer::machineChanges(Decisions& decisions) {
     case 1: world_->machine.ports.set(anyPorts(decisions)); break;
     case 2: book_.change(decisions); break;
     default:
-      const auto port = static_cast<int>(decisions.next() % 6);
-      world_->machine.line.plug(port == 0 ? std::nullopt : std::optional(port));
+      const auto port = static_cast<int>(decisions.next() % 12);
+      const int used = port > 5 ? kPort : port;
+      world_->machine.line.plug(port == 0 ? std::nullopt : std::optional(used));
   }
-}
-
-Control* PanelPlayer::anyControl(Decisions& decisions) {
-  const auto windows = world_->panel.platform.windows;
-  const auto& controls = windows[decisions.below(windows.size())]->controls();
-  return controls.empty() ? nullptr : controls[decisions.below(controls.size())];
-}
-
-// What a user does to a control of that kind; nothing for one that takes nothing.
-std::function<void()> PanelPlayer::deed(Control& control, Decisions& decisions) {
-  if (auto* label = dynamic_cast<Label*>(&control)) return [label] { label->userClick(); };
-  if (auto* picture = dynamic_cast<Picture*>(&control)) return [picture] { picture->userClick(); };
-  if (auto* option = dynamic_cast<OptionButton*>(&control))
-    return [option] { option->userClick(); };
-  if (auto* button = dynamic_cast<CommandButton*>(&control)) {
-    return [this, button] {
-      const bool exits = button == &world_->panel.form1.Command8 && button->isReachable();
-      userAskedForTheEnd_ = userAskedForTheEnd_ || exits;
-      button->userClick();
-    };
-  }
-  const int number = static_cast<int>(decisions.next()) - 8;
-  if (auto* slider = dynamic_cast<Slider*>(&control)) {
-    return [slider, number] { slider->userMove(number); };
-  }
-  if (auto* tabs = dynamic_cast<TabStrip*>(&control)) {
-    return [tabs, number] { tabs->userTab(number % 8); };
-  }
-  const std::string keys = decisions.text(12);
-  if (auto* box = dynamic_cast<TextBox*>(&control)) {
-    return [box, keys, number] { number < 0 ? box->userErase() : box->userType(keys); };
-  }
-  if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
-    if (number % 2 == 0) return [combo, keys] { combo->userType(keys); };
-  }
-  if (auto* list = dynamic_cast<ListControl*>(&control)) {
-    return [list, number] { list->userSelect(number % 20); };
-  }
-  return {};
 }
 
 void PanelPlayer::userActs(Decisions& decisions) {
-  Control* const control = anyControl(decisions);
+  Control* const control = anyControl(world_->panel.platform, decisions);
   if (control == nullptr || !mayNest()) return;
-  if (auto action = deed(*control, decisions)) happens(std::move(action));
+  auto action = deed(*control, decisions);
+  if (!action) return;
+  happens([this, control, action = std::move(action)] {
+    const std::string& window = control->window().name();
+    if (control == &world_->panel.form1.Command8 && control->isReachable()) end_->userAsks();
+    if (action()) ++deeds_[window];
+  });
 }
 
 void PanelPlayer::userHandlesWindow(Decisions& decisions) {
-  const auto windows = world_->panel.platform.windows;
+  const auto& windows = world_->panel.platform.windows;
   Window* const window = windows[decisions.below(windows.size())];
   const int what = decisions.next() % 4;
   if (!mayNest()) return;
@@ -205,8 +189,8 @@ void PanelPlayer::userHandlesWindow(Decisions& decisions) {
       window->userState(what);
       return;
     }
-    const bool ends = window == &world_->panel.form1 && window->Visible.peek();
-    userAskedForTheEnd_ = userAskedForTheEnd_ || ends;
+    const bool isInReach = window->Visible.peek() && !world_->machine.boxes.isUp();
+    if (window == &world_->panel.form1 && isInReach) end_->userAsks();
     window->userClose();
   });
 }
@@ -250,12 +234,13 @@ void PanelPlayer::rest() {
   world_->time().settle(std::chrono::hours(26));
   look();
   if (world_->machine.time.hasEnded() || !problem_.empty()) return;
-  if (world_->handlers().depth() != 0) problem_ = "handlers stay on the stack for ever";
+  if (world_->handlers().depth() != 0) note("handlers stay on the stack for ever");
+  note(transcript_->problemAtRest());
 
   const auto clock = [this] { return world_->panel.form1.Label4.Caption.peek(); };
   const std::string before = clock();
   run(std::chrono::seconds(2));
-  if (!world_->machine.time.hasEnded() && clock() == before) problem_ = "the clock has stopped";
+  if (!world_->machine.time.hasEnded() && clock() == before) note("the clock has stopped");
   if (modem_) {
     world_->machine.line.setModem(modem_.get());
   } else {
@@ -271,33 +256,20 @@ void PanelPlayer::endCalls() {
 
 // What must hold at any moment between two steps.
 void PanelPlayer::look() {
-  if (!problem_.empty()) return;
   const int depth = world_->handlers().depth();
-  problem_ = book_.problem();
-  if (depth > kDeepest) problem_ = std::to_string(depth) + " handlers on the stack";
+  note(book_.problem());
+  if (depth > kDeepest) note(std::to_string(depth) + " handlers on the stack");
   for (const Window* window : world_->panel.platform.windows) {
     const bool dead = window->Visible.peek() && !window->isLoaded();
-    if (dead) problem_ = window->name() + " is on view and not loaded";
+    if (dead) note(window->name() + " is on view and not loaded");
   }
-  if (!world_->machine.time.hasEnded()) {
-    boxWasHeld_ = boxWasHeld_ || world_->machine.boxes.isUp();
-    world_->machine.boxes.takeShown();
-    world_->machine.line.takeWrites();
-    return;
-  }
-  if (depth != 0) problem_ = "the program has ended with handlers on the stack";
-  if (!hasReasonToEnd()) problem_ = "the program has ended for no reason that anyone was told";
+  note(transcript_->problem());
+  note(end_->look());
 }
 
-// The user wanted it, or a box says why (one that is held says so long before its handler goes on),
-// or the modem has switched itself off.
-bool PanelPlayer::hasReasonToEnd() {
-  if (userAskedForTheEnd_ || boxWasHeld_) return true;
-  if (!world_->machine.boxes.takeShown().empty()) return true;
-  const auto writes = world_->machine.line.takeWrites();
-  return std::any_of(writes.begin(), writes.end(), [](const HeadlessLine::Write& write) {
-    return write.text.starts_with("AT+CPOF");
-  });
+// The first one counts.
+void PanelPlayer::note(const std::string& problem) {
+  if (problem_.empty()) problem_ = problem;
 }
 
 }  // namespace gsm

@@ -2,14 +2,16 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "app/headless_panel.h"
-#include "controls/controls.h"
-#include "controls/window.h"
 #include "fuzz/player/decisions.h"
+#include "fuzz/player/end_watch.h"
 #include "fuzz/player/player_book.h"
+#include "fuzz/player/transcript_watch.h"
 #include "simulator/host/simulated_modem.h"
 
 namespace gsm {
@@ -35,9 +37,12 @@ class PanelPlayer {
   Duration played() const { return earlier_ + world_->machine.time.now(); }
   /// How many programs have been started.
   int starts() const { return starts_; }
+  /// How often the user got something done in each window, by the windows' names.
+  const std::map<std::string, int>& deeds() const { return deeds_; }
 
  private:
   void startAnew(Decisions& decisions);
+  void teachModem();
 
   // The steps.
   void modemSays(Decisions& decisions);
@@ -52,8 +57,6 @@ class PanelPlayer {
   void userHandlesBox(Decisions& decisions);
   void timePasses(Decisions& decisions);
 
-  Control* anyControl(Decisions& decisions);
-  std::function<void()> deed(Control& control, Decisions& decisions);
   /// Whether the user may put one more handler on the stack: the program bounds what the line can
   /// pile up, and nobody clicks so fast.
   bool mayNest() const;
@@ -62,16 +65,17 @@ class PanelPlayer {
   void endCalls();
 
   void look();
-  bool hasReasonToEnd();
+  void note(const std::string& problem);
 
   const std::filesystem::path folder_;
   PlayerBook book_;
   std::unique_ptr<HeadlessPanel> world_;
+  std::optional<TranscriptWatch> transcript_;
+  std::optional<EndWatch> end_;
   std::unique_ptr<SimulatedModem> modem_;  // in the place of the scripted one; may be none
   Duration earlier_{0};
   int starts_ = 0;
-  bool userAskedForTheEnd_ = false;
-  bool boxWasHeld_ = false;
+  std::map<std::string, int> deeds_;
   std::string problem_;
 };
 

@@ -48,6 +48,7 @@ void HeadlessLine::leave(std::size_t bytes, int opening) {
 
 void HeadlessLine::arrive(std::string_view bytes) {
   if (bytes.empty() || !openPort_ || openPort_ != modemPort_) return;
+  if (watcher_) watcher_(bytes);
   if (listener_ != nullptr) listener_->bytesArrived(bytes);
 }
 

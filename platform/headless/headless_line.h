@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/headless/headless_ports.h"
@@ -51,6 +52,12 @@ class HeadlessLine : public SerialDevice {
   /// hold open is lost.
   void arrive(std::string_view bytes);
 
+  /// From now on `watcher` hears each chunk that reaches the program, before the program does; an
+  /// empty one ends that.
+  void watch(std::function<void(std::string_view)> watcher) { watcher_ = std::move(watcher); }
+  /// How often the program has opened a port so far.
+  int openings() const { return openings_; }
+
   /// What the program has written since the last call.
   std::vector<Write> takeWrites();
 
@@ -61,6 +68,7 @@ class HeadlessLine : public SerialDevice {
   const HeadlessPorts& ports_;
   Listener* listener_ = nullptr;
   LineModem* modem_ = nullptr;
+  std::function<void(std::string_view)> watcher_;
   std::optional<int> modemPort_;
   std::optional<int> openPort_;
   LineSettings settings_;

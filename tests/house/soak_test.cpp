@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
+#include <map>
+#include <string>
 
 #include "fuzz/player/panel_player.h"
 #include "tests/support/seed.h"
@@ -37,6 +41,24 @@ INSTANTIATE_TEST_SUITE_P(Of, Soak, ::testing::Range(1u, 9u));
 
 // Each run another one. The seed is printed; GSM_TEST_SEED takes it back.
 TEST(SoakAtRandom, OfAWeekHoldsWhatMustHold) { soak(newSeed(), 7 * 24h); }
+
+// What the user never gets to isn't tried out.
+TEST(SoakOfShortRuns, GetsSomethingDoneInEveryWindow) {
+  std::map<std::string, int> deeds;
+  const auto isMissing = [&deeds](const char* window) { return deeds[window] < 10; };
+  constexpr std::array kWindows = {"Form1", "Form2", "Form3",  "Form4",  "Form6",  "Form7",
+                                   "Form8", "Form9", "Form10", "Form12", "Form15", "frmSettings"};
+  constexpr std::uint32_t kMostSeeds = 100;
+  for (std::uint32_t seed = 1; seed <= kMostSeeds; ++seed) {
+    const TemporaryFolder folder;
+    RandomDecisions decisions(seed);
+    PanelPlayer player(folder.path(), decisions);
+    for (int steps = 0; steps < 2000; ++steps) player.step(decisions);
+    for (const auto& [window, count] : player.deeds()) deeds[window] += count;
+    if (std::none_of(kWindows.begin(), kWindows.end(), isMissing)) return;
+  }
+  for (const char* window : kWindows) EXPECT_FALSE(isMissing(window)) << window;
+}
 
 }  // namespace
 }  // namespace gsm
