@@ -60,9 +60,11 @@ Deed turn(const TabStrip& strip, int tab) {
 
 Deed type(const Control& control, const char* keys) {
   return [&control, keys](const Binder& screen) {
+    QWidget& widget = onView(screen, control);
+    widget.setFocus(Qt::MouseFocusReason);
     for (const QChar key : QString(keys)) {
       QKeyEvent event(QEvent::KeyPress, key.toUpper().unicode(), Qt::NoModifier, key);
-      QApplication::sendEvent(&onView(screen, control), &event);
+      QApplication::sendEvent(&widget, &event);
     }
   };
 }

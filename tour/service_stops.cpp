@@ -16,7 +16,7 @@ Route services(Panel& panel) {
        }},
       {"forwarding read",
        {},
-       "all six reasons are told",
+       "the six reasons have been asked about",
        [&] {
          return window.Label2.Caption.peek().empty() && !window.Label16.Caption.peek().empty();
        }},
@@ -57,8 +57,6 @@ Route services(Panel& panel) {
       {"waiting switched off", inTurn({click(window.Option30), click(window.Command6)}),
        "the network has taken it",
        [&] { return window.Label6.Caption.peek() == "Changes SuccessFul"; }},
-      {"waiting read again", turn(window.TabStrip1, 3), "callers don't wait",
-       [&] { return window.Label6.Caption.peek() == "Current Status:Call Waiting Disabled"; }},
       {"user group", turn(window.TabStrip1, 4), "there is none",
        [&] {
          return window.Label7.Caption.peek().starts_with("Current Status: CUG Mode Disabled");
