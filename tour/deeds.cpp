@@ -1,13 +1,18 @@
 #include "tour/deeds.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QFile>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QRadioButton>
+#include <QTabBar>
 #include <QWidget>
 #include <fstream>
 #include <stdexcept>
+#include <utility>
 
 namespace gsm {
 namespace {
@@ -29,20 +34,37 @@ void clickAt(QWidget& widget, const QPoint& at) {
   }
 }
 
+// An option hears the mouse on its mark and its words, which may end ahead of its middle.
+QPoint toClick(const QWidget& widget) {
+  constexpr int kIntoMark = 6;
+  const QPoint middle = widget.rect().center();
+  return qobject_cast<const QRadioButton*>(&widget) ? QPoint(kIntoMark, middle.y()) : middle;
+}
+
 }  // namespace
 
 Deed click(const Control& control) {
   return [&control](const Binder& screen) {
     QWidget& widget = onView(screen, control);
-    clickAt(widget, widget.rect().center());
+    if (!widget.isEnabled()) throw std::runtime_error(control.fullName() + " is disabled");
+    clickAt(widget, toClick(widget));
+  };
+}
+
+Deed turn(const TabStrip& strip, int tab) {
+  return [&strip, tab](const Binder& screen) {
+    auto& bar = dynamic_cast<QTabBar&>(onView(screen, strip));
+    clickAt(bar, bar.tabRect(tab - 1).center());
   };
 }
 
 Deed type(const Control& control, const char* keys) {
   return [&control, keys](const Binder& screen) {
+    QWidget& widget = onView(screen, control);
+    widget.setFocus(Qt::MouseFocusReason);
     for (const QChar key : QString(keys)) {
       QKeyEvent event(QEvent::KeyPress, key.toUpper().unicode(), Qt::NoModifier, key);
-      QApplication::sendEvent(&onView(screen, control), &event);
+      QApplication::sendEvent(&widget, &event);
     }
   };
 }
@@ -56,8 +78,25 @@ Deed pick(const Control& list, int index) {
   };
 }
 
+Deed choose(const ComboBox& combo, int index) {
+  return [&combo, index](const Binder& screen) {
+    auto& widget = dynamic_cast<QComboBox&>(onView(screen, combo));
+    if (index >= widget.count()) throw std::runtime_error(combo.fullName() + " has too few items");
+    widget.showPopup();
+    widget.view()->setCurrentIndex(widget.model()->index(index, widget.modelColumn()));
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(widget.view(), &event);
+  };
+}
+
 Deed close(const Window& window) {
   return [&window](const Binder& screen) { screen.widget(window)->close(); };
+}
+
+Deed inTurn(std::vector<Deed> deeds) {
+  return [deeds = std::move(deeds)](const Binder& screen) {
+    for (const Deed& deed : deeds) deed(screen);
+  };
 }
 
 Deed say(const QString& path, const std::string& line) {

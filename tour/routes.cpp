@@ -10,6 +10,7 @@
 #include "phonebook/form4.h"
 #include "phonebook/form5.h"
 #include "startup/frm_settings.h"
+#include "tour/parts.h"
 
 namespace gsm {
 namespace {
@@ -112,12 +113,17 @@ Route incomingCall(Panel& panel, const QString& console) {
   };
 }
 
-Route portSettings(Panel& panel) {
-  Form1& form1 = panel.form1;
+Route callsLeft(Panel& panel) {
   Form3& calls = panel.form3;
-  frmSettings& settings = panel.settings;
   return {
       {"calls left", close(calls), "the call window is gone", [&] { return !calls.isLoaded(); }},
+  };
+}
+
+Route portSettings(Panel& panel) {
+  Form1& form1 = panel.form1;
+  frmSettings& settings = panel.settings;
+  return {
       {"port settings", click(form1.Command7), "the port settings list the ports",
        [&] { return settings.isLoaded() && settings.cmdAction[0].Enabled.peek(); }},
       {"port settings left", close(settings), "the port stays closed",
@@ -152,9 +158,13 @@ std::optional<Route> routeOf(const QString& name, Panel& panel, const QString& c
   if (name == "panel") {
     return joined({startUp(panel), signal(panel), details(panel), phoneBook(panel), newEntry(panel),
                    call(panel), console.isEmpty() ? Route{} : incomingCall(panel, console),
-                   portSettings(panel)});
+                   callsLeft(panel), portSettings(panel)});
   }
   if (name == "pin") return simCode(panel);
+  if (name == "services") {
+    return joined({simCode(panel), phoneBook(panel), callsLeft(panel), messages(panel, console),
+                   services(panel), locks(panel)});
+  }
   return std::nullopt;
 }
 

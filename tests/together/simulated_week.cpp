@@ -2,7 +2,11 @@
 
 #include <cmath>
 
+#include "modem/form10.h"
+#include "modem/form11.h"
 #include "panel/form1.h"
+#include "security/form9.h"
+#include "services/form12.h"
 #include "simulator/phone_book_text.h"
 
 namespace gsm {
@@ -34,6 +38,7 @@ void SimulatedWeek::SetUp() {
 // The modem goes after the panel's handlers have been unwound, and before the line.
 void SimulatedWeek::TearDown() {
   world().time().abandon();
+  noteWatch_.reset();
   modem_.reset();
 }
 
@@ -51,6 +56,10 @@ void SimulatedWeek::begin(std::uint32_t seed, int entriesOnCard) {
     form1().Text1.clear();
   });
   settle();
+  noteWatch_ = std::make_unique<PropertyWatch>(messages().Label4, [this](PropertyId) {
+    if (!note().starts_with("Message Sent ")) return;
+    EXPECT_TRUE(isMessageTaken(messages().Text1.Text.peek())) << "whatever else happens meanwhile";
+  });
   openCallWindow();
 }
 
@@ -83,6 +92,21 @@ std::string SimulatedWeek::doSomething() {
       {"calls somebody", &SimulatedWeek::callSomebody, 5},
       {"redials", &SimulatedWeek::redial, 3},
       {"is called", &SimulatedWeek::letSomebodyCall, 8},
+      {"sends a message", &SimulatedWeek::sendMessage, 4},
+      {"saves a message", &SimulatedWeek::saveMessage, 2},
+      {"reads a message", &SimulatedWeek::readMessage, 4},
+      {"deletes a message", &SimulatedWeek::deleteMessage, 3},
+      {"writes to some name", &SimulatedWeek::writeToSomeName, 2},
+      {"switches the reports", &SimulatedWeek::switchReports, 1},
+      {"switches the broadcast", &SimulatedWeek::switchBroadcast, 1},
+      {"is written to", &SimulatedWeek::letSomebodyWrite, 4},
+      {"is written to meanwhile", &SimulatedWeek::letSomebodyWriteMeanwhile, 6},
+      {"forwards calls", &SimulatedWeek::forwardCalls, 3},
+      {"bars calls", &SimulatedWeek::barCalls, 2},
+      {"switches the waiting", &SimulatedWeek::switchWaiting, 2},
+      {"joins a user group", &SimulatedWeek::joinUserGroup, 1},
+      {"turns a lock", &SimulatedWeek::turnLock, 4},
+      {"changes a password", &SimulatedWeek::changePassword, 2},
   };
   std::size_t sum = 0;
   for (const Choice& choice : choices) sum += choice.weight;
@@ -109,6 +133,24 @@ void SimulatedWeek::compareBook() {
   EXPECT_EQ(used(), model_.window()->used);
   EXPECT_EQ(total(), model_.window()->total);
   EXPECT_EQ(dialBox(), model_.window()->dialBox);
+}
+
+void SimulatedWeek::compareWindows() {
+  for (const Window* window : machine().platform().windows) {
+    EXPECT_TRUE(window->isLoaded() || !window->Visible.peek()) << window->name();
+  }
+  EXPECT_FALSE(panel().form10.Visible.peek()) << "the SIM has been opened";
+  EXPECT_FALSE(panel().form11.Visible.peek());
+}
+
+void SimulatedWeek::showPanel() {
+  for (Window* window : std::initializer_list<Window*>{&messages(), &services(), &locks()}) {
+    if (!window->Visible.peek()) continue;
+    world().time().after(Duration::zero(), [window] { window->userClose(); });
+    settle();
+    EXPECT_FALSE(window->isLoaded()) << window->name();
+  }
+  EXPECT_TRUE(form1().Visible.peek());
 }
 
 void SimulatedWeek::type(TextBox& box, const std::string& text) {

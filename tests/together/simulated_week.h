@@ -1,20 +1,26 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <random>
 #include <string>
 #include <vector>
 
+#include "panel/panel.h"
 #include "simulator/host/simulated_modem.h"
+#include "sms/form8.h"
 #include "tests/phonebook/phone_book_test.h"
+#include "tests/support/property_watch.h"
 #include "tests/together/book_model.h"
+#include "tests/together/network_truth.h"
 
 namespace gsm {
 
 /// A panel, a modem and a phone book file, and what a user and the world do to them at random. Each
 /// deed looks at what the user must have seen; `compareBook` holds the card, the file and the call
-/// window against the model.
+/// window against the model, and `compareWindows` looks at what holds of every window at any time.
 ///
 /// The user is up from six in the morning to ten at night: a wait over midnight fails, which has
 /// tests of its own.
@@ -34,6 +40,9 @@ class SimulatedWeek : public PhoneBookTest {
 
   /// The card, the file and the window stand as the model says.
   void compareBook();
+
+  /// What is on view is loaded, and what comes up for a moment has gone.
+  void compareWindows();
 
   /// No call is up and the transcript has been cleared: the poll takes the prompt down and ends.
   void comeToRest();
@@ -70,9 +79,51 @@ class SimulatedWeek : public PhoneBookTest {
   void letCallerGiveUp();
   void hangUp();
 
+  // The messages; `simulated_week_messages.cpp`.
+  void openMessages();
+  simulator::MessageEntries messagesOnCard();
+  std::optional<int> freePlaceOnCard();
+  bool isMessageTaken(const std::string& number);
+  std::string someText();
+  void writeMessage(const std::string& number);
+  void sendMessage();
+  void saveMessage();
+  void readMessage();
+  void deleteMessage();
+  void writeToSomeName();
+  void switchReports();
+  void switchBroadcast();
+  void letSomebodyWrite();
+  void letSomebodyWriteMeanwhile();
+  Form8& messages() { return panel().form8; }
+  std::string note() { return messages().Label4.Caption.peek(); }
+
+  // The network's services; `simulated_week_services.cpp`.
+  NetworkTruth truth();
+  void turnServices(int page);
+  void compareForwarding();
+  void forwardCalls();
+  void letCallersThrough();
+  void barCalls();
+  void switchWaiting();
+  void joinUserGroup();
+  Form12& services() { return panel().form12; }
+
+  // The locks; `simulated_week_locks.cpp`.
+  bool isLocked(std::size_t page);
+  bool mayMistakePin();
+  void openLocks();
+  std::size_t openSomeLock();
+  std::string somePassword(std::size_t page);
+  void turnLock();
+  void changePassword();
+  Form9& locks() { return panel().form9; }
+
   // The user's hands and the modem's console.
   void type(TextBox& box, const std::string& text);
   void needCalls();
+  /// Leaves the window that stands in the main window's place.
+  void showPanel();
   void expectBox(const std::string& text);
   /// Follows a call window that a call has loaded unseen.
   void followLoading();
@@ -95,6 +146,10 @@ class SimulatedWeek : public PhoneBookTest {
   std::unique_ptr<SimulatedModem> modem_;
   BookModel model_{{}};
   std::string lastDialled_;
+  bool inPeace_ = true;   // nobody writes while the user does something
+  bool reports_ = false;  // of messages, switched on
+  std::array<std::string, 3> passwords_ = {"12345678", "1234", "87654321"};
+  std::unique_ptr<PropertyWatch> noteWatch_;
 };
 
 }  // namespace gsm

@@ -9,6 +9,7 @@
 namespace gsm {
 
 void SimulatedWeek::openCallWindow() {
+  showPanel();
   click(form1().Command2);
   settle();
   model_.open();

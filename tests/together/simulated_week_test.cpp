@@ -1,4 +1,5 @@
-// A week of the phone book and the calls, against the rules of their book-keeping.
+// A week of the phone book, calls, messages, network services and locks, against the rules of their
+// book-keeping and what the modem's console tells.
 
 #include <gtest/gtest.h>
 
@@ -24,6 +25,7 @@ class Week : public SimulatedWeek {
       letTimePass();
       deed = doSomething();
       compareBook();
+      compareWindows();
       ++deeds;
       ASSERT_FALSE(ended());
     }
