@@ -21,9 +21,7 @@ void Form1::pollCall() try {
   std::string fields = modem.slice(key + 7, modem.position("OK"));
   std::string call;
   for (int field = 1; field <= kFieldsTaken; ++field) {
-    const Position comma = position(",", fields);
-    const std::string value = gsm::slice(fields, 1, comma - 1);
-    fields = gsm::slice(fields, comma + 1, position("OK", fields));
+    const std::string value = takeReplyField(fields);
     if (field == kCallField) call = value;
   }
   if (number(call) == 0) {
