@@ -106,7 +106,10 @@ bool ComboBox::userType(std::string_view keys) {
 
 bool ComboBox::userErase() { return edit(""); }
 
-bool ComboBox::userEdit(std::string text) { return edit(singleLine(text)); }
+bool ComboBox::userEdit(std::string text) {
+  text = singleLine(text);
+  return edit(std::move(text));
+}
 
 bool ComboBox::edit(std::string text) {
   if (!isReachable() || !isEditable()) return false;
