@@ -37,7 +37,8 @@ std::size_t placeIn(const std::vector<std::string>& columns, const std::string& 
 
 }  // namespace
 
-SqliteRecordSet::SqliteRecordSet(std::shared_ptr<Connection> connection, const std::string& source)
+SqliteRecordSet::SqliteRecordSet(const std::shared_ptr<Connection>& connection,
+                                 const std::string& source)
     : SqliteRecordSet(connection, sourceOf(*connection, source)) {}
 
 SqliteRecordSet::SqliteRecordSet(std::shared_ptr<Connection> connection, Source source)

@@ -18,7 +18,7 @@ namespace gsm {
 class SqliteRecordSet : public RecordSet {
  public:
   /// `source` is a table's name or a query that `parseSelection` reads.
-  SqliteRecordSet(std::shared_ptr<Connection> connection, const std::string& source);
+  SqliteRecordSet(const std::shared_ptr<Connection>& connection, const std::string& source);
 
   bool isBof() const override { return keys_.empty(); }
   bool isEof() const override { return current_ >= keys_.size(); }
