@@ -35,14 +35,14 @@ std::string keptAway(const ModemState& state) {
 std::string ring(ModemState& state, std::string_view operand) {
   const auto caller = callerIn(operand);
   if (!caller) return wrongUse();
-  if (const std::string complaint = keptAway(state); !complaint.empty()) return complaint;
+  if (std::string complaint = keptAway(state); !complaint.empty()) return complaint;
   return doneOr(state.calls.ring(*caller), "there is a call already; 'wait' adds one to it");
 }
 
 std::string wait(ModemState& state, std::string_view operand) {
   const auto caller = callerIn(operand);
   if (!caller) return wrongUse();
-  if (const std::string complaint = keptAway(state); !complaint.empty()) return complaint;
+  if (std::string complaint = keptAway(state); !complaint.empty()) return complaint;
   if (!state.calls.waitingEnabled()) return consoleError("call waiting is switched off");
   return doneOr(state.calls.wait(*caller), "a caller waits only while there is one call, answered");
 }
