@@ -147,7 +147,7 @@ void SimulatedWeek::showPanel() {
   for (Window* window : std::initializer_list<Window*>{&messages(), &services(), &locks()}) {
     if (!window->Visible.peek()) continue;
     world().time().after(Duration::zero(), [window] { window->userClose(); });
-    settle();
+    run(0);
     EXPECT_FALSE(window->isLoaded()) << window->name();
   }
   EXPECT_TRUE(form1().Visible.peek());

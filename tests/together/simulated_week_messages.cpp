@@ -7,6 +7,7 @@
 #include "panel/form1.h"
 #include "simulator/message_text.h"
 #include "simulator/service_classes.h"
+#include "simulator/text.h"
 #include "sms/form8.h"
 #include "tests/together/simulated_week.h"
 
@@ -164,7 +165,8 @@ void SimulatedWeek::deleteMessage() {
   settle();
 }
 
-// The list keeps the names that it was opened with; a name with an apostrophe finds nobody.
+// Capitals don't count, so a name may find another one's number; one with an apostrophe finds
+// nobody.
 void SimulatedWeek::writeToSomeName() {
   comeToRest();
   openMessages();
@@ -187,8 +189,10 @@ void SimulatedWeek::writeToSomeName() {
   world().time().after(Duration::zero(),
                        [this, row] { messages().List1.userSelect(static_cast<int>(row)); });
   settle();
-  const auto named = std::find_if(book.begin(), book.end(),
-                                  [&](const BookRow& each) { return each[2] == names[row]; });
+  const auto named = std::find_if(book.begin(), book.end(), [&](const BookRow& each) {
+    return std::equal(each[2].begin(), each[2].end(), names[row].begin(), names[row].end(),
+                      [](char a, char b) { return simulator::upper(a) == simulator::upper(b); });
+  });
   const bool isFound = names[row].find('\'') == std::string::npos && named != book.end();
   EXPECT_EQ(messages().Text1.Text.peek(), isFound ? (*named)[1] : before) << names[row];
 }

@@ -48,6 +48,13 @@ void SimulatedWeek::turnServices(int page) {
   }
   world().time().after(Duration::zero(), [this, page] { services().TabStrip1.userTab(page); });
   settle();
+  EXPECT_TRUE(services().Frame13.Visible.peek()) << "what is forwarded stands below every page";
+  EXPECT_EQ(services().Frame1.Visible.peek(), page == kForwarding);
+  EXPECT_EQ(services().Frame9.Visible.peek(), page == kBarring);
+  EXPECT_EQ(services().Frame12.Visible.peek(), page == kUserGroup);
+  EXPECT_FALSE(services().Frame5.Visible.peek());
+  if (page == kBarring) return;  // the page of the waiting may stay beside it
+  EXPECT_EQ(services().Frame10.Visible.peek(), page == kWaiting);
 }
 
 void SimulatedWeek::compareForwarding() {
