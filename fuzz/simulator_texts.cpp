@@ -84,8 +84,11 @@ void readConsole(std::string_view bytes) {
   lines.push_back(splitter.takeRest());
   for (const std::string& line : lines) {
     mustHold(line.size() <= pty::LineSplitter::kLongest);
+    const int speed = modem.speed() == simulator::kAutobaud ? 9600 : modem.speed();
     if (line.starts_with("AT")) {
-      modem.hostWrites(line + "\r", modem.speed() == simulator::kAutobaud ? 9600 : modem.speed());
+      modem.hostWrites(line + "\r", speed);
+    } else if (line.starts_with('>')) {
+      modem.hostWrites(line.substr(1) + "\x1A", speed);
     } else {
       obey(modem, line);
     }

@@ -22,7 +22,8 @@ void readProfile(std::string_view bytes);
 void readPhoneBookText(std::string_view bytes);
 /// The messages of that card.
 void readMessagesText(std::string_view bytes);
-/// Lines of the simulated modem's console; those that begin with "AT" are the host's.
+/// Lines of the simulated modem's console; those that begin with "AT" are the host's
+/// commands, those with ">" its texts.
 void readConsole(std::string_view bytes);
 
 }  // namespace gsm

@@ -235,7 +235,6 @@ void PanelPlayer::rest() {
   look();
   if (world_->machine.time.hasEnded() || !problem_.empty()) return;
   if (world_->handlers().depth() != 0) note("handlers stay on the stack for ever");
-  note(transcript_->problemAtRest());
 
   const auto clock = [this] { return world_->panel.form1.Label4.Caption.peek(); };
   const std::string before = clock();
@@ -264,6 +263,7 @@ void PanelPlayer::look() {
     if (dead) note(window->name() + " is on view and not loaded");
   }
   note(transcript_->problem());
+  if (depth == 0) note(transcript_->problemAtRest());
   note(end_->look());
 }
 

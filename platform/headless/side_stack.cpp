@@ -14,19 +14,30 @@ void SideStack::resume() {
   if (ended_) return;
   if (!thread_.joinable()) {
     thread_ = std::thread([this] {
-      bodysTurn_.acquire();
+      await(Turn::body);
       body_();
       ended_ = true;
-      ownersTurn_.release();
+      give(Turn::owner);
     });
   }
-  bodysTurn_.release();
-  ownersTurn_.acquire();
+  give(Turn::body);
+  await(Turn::owner);
 }
 
 void SideStack::yield() {
-  ownersTurn_.release();
-  bodysTurn_.acquire();
+  give(Turn::owner);
+  await(Turn::body);
+}
+
+void SideStack::give(Turn turn) {
+  const std::lock_guard lock(mutex_);
+  turn_ = turn;
+  changed_.notify_one();
+}
+
+void SideStack::await(Turn turn) {
+  std::unique_lock lock(mutex_);
+  changed_.wait(lock, [this, turn] { return turn_ == turn; });
 }
 
 }  // namespace gsm

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <condition_variable>
 #include <functional>
-#include <semaphore>
+#include <mutex>
 #include <thread>
 
 namespace gsm {
@@ -27,9 +28,16 @@ class SideStack {
   bool hasEnded() const { return ended_; }
 
  private:
+  enum class Turn { owner, body };
+  void give(Turn turn);
+  void await(Turn turn);
+
   std::function<void()> body_;
-  std::binary_semaphore ownersTurn_{0};
-  std::binary_semaphore bodysTurn_{0};
+  // Who waits sleeps at once. The library's semaphores would try again and again before that, and
+  // on a busy machine each try costs a round of all that runs there.
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  Turn turn_ = Turn::owner;
   bool ended_ = false;
   std::thread thread_;
 };
