@@ -156,7 +156,8 @@ TEST_P(Contract, EndsWhenTheModemAnswersBothWords) {
   open();
   answerAll("\r\nOK\r\n\r\nERROR\r\n");
   press();
-  expectGoesOn();
+  expectAtRest();
+  EXPECT_EQ(ended(), GetParam().endsByOk);
 }
 
 TEST_P(Contract, EndsAsItSaysAtMidnight) {

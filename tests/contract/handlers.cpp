@@ -1,6 +1,7 @@
 #include "tests/contract/handlers.h"
 
 #include "modem/form10.h"
+#include "module/form17.h"
 #include "panel/form1.h"
 #include "phonebook/form3.h"
 #include "phonebook/form4.h"
@@ -89,6 +90,21 @@ void enterPhonePasswords(Panel& panel) {
   panel.form9.Text3.Text = "87654321";
 }
 
+void chooseDump(Panel& panel) {
+  panel.form17.Combo1.ListIndex = 0;
+  panel.form17.Combo2.ListIndex = 0;
+}
+void chooseLevel(Panel& panel) { panel.form17.Combo3.ListIndex = 1; }
+void chooseVoiceMail(Panel& panel) {
+  panel.form17.Frame5.Visible = true;
+  panel.form17.Combo4.Text = "1";
+}
+void choosePin(Panel& panel) {
+  panel.form17.Frame6.Visible = true;
+  panel.form17.Combo5.Text = "1";
+}
+void showPowerPage(Panel& panel) { panel.form17.Frame9.Visible = true; }
+
 std::vector<HandlerRow> makeHandlers() {
   std::vector<HandlerRow> rows = {
       {"Signal", "Form1", "Label8", Trap::silent, true, {1}},
@@ -150,6 +166,25 @@ std::vector<HandlerRow> makeHandlers() {
       {"ChangePhonePassword", "Form9", "Command3", Trap::silent, true, {1}, enterPhonePasswords},
       {"ChangeSimPin", "Form9", "Command6", Trap::silent, true, {1}, showSimPage},
       {"ChangeNetworkPassword", "Form9", "Command9", Trap::silent, true, {1}, showNetworkPage},
+      {"OpenMakersFeatures", "Form16", "Command1", Trap::silent, false, {1}},
+      {"PageOfIndications", "Form17", "Command1", Trap::silent, true, {1}},
+      {"PageOfVoiceMail", "Form17", "Command2", Trap::silent, false, {}},
+      {"PageOfPins", "Form17", "Command3", Trap::silent, false, {}},
+      {"PageOfPower", "Form17", "Command5", Trap::silent, false, {}},
+      {"SignalBesideIndications", "Form17", "Label10", Trap::silent, true, {1}},
+      {"ReadIndicators", "Form17", "Command6", Trap::silent, true, {1}},
+      {"ChangeDump", "Form17", "Command7", Trap::silent, true, {1}, chooseDump},
+      {"ChangeIndications", "Form17", "Command8", Trap::silent, true, {1}, chooseLevel},
+      {"ChangeVoiceMail", "Form17", "Command9", Trap::silent, true, {1}, chooseVoiceMail},
+      {"ReadPin", "Form17", "Command10", Trap::silent, true, {1}, choosePin},
+      {.name = "SwitchOff",
+       .window = "Form17",
+       .control = "Command4",
+       .trap = Trap::silent,
+       .usesPort = true,
+       .pauses = {1, 3},
+       .prepare = showPowerPage,
+       .endsByOk = true},
   };
   return rows;
 }

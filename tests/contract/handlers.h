@@ -21,12 +21,13 @@ struct HandlerRow {
   bool usesPort;              // its first deed is a write to the port
   std::vector<float> pauses;  // its waits in seconds, with a modem that says nothing
   std::function<void(Panel& panel)> prepare = {};  // what it needs to get as far as that
+  bool endsByOk = false;                           // the program, when the modem says so
 
   friend void PrintTo(const HandlerRow& row, std::ostream* out) { *out << row.name; }
 };
 
-/// Every handler that a click reaches, but those that end the program, start it anew, or wait for
-/// a window of their own: "Exit", "REFRESH" and "Port Settings->".
+/// Every handler that a click reaches, but those that always end the program, start it anew, or
+/// wait for a window of their own: "Exit", "REFRESH" and "Port Settings->".
 const std::vector<HandlerRow>& handlers();
 
 }  // namespace gsm
