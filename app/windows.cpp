@@ -21,6 +21,9 @@ Windows::Windows(Platform& machine)
             .form14 = form14_,
             .form15 = form15_,
             .form16 = form16_,
+            .form17 = form17_,
+            .form18 = form18_,
+            .form19 = form19_,
             .form20 = form20_,
             .settings = settings_} {}
 

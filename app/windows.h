@@ -8,6 +8,9 @@
 #include "modem/form2.h"
 #include "modem/form20.h"
 #include "module/form16.h"
+#include "module/form17.h"
+#include "module/form18.h"
+#include "module/form19.h"
 #include "panel/form1.h"
 #include "panel/form7.h"
 #include "panel/panel.h"
@@ -47,6 +50,9 @@ class Windows {
   Form14 form14_{panel};
   Form15 form15_{panel};
   Form16 form16_{panel};
+  Form17 form17_{panel};
+  Form18 form18_{panel};
+  Form19 form19_{panel};
   Form20 form20_{panel};
   frmSettings settings_{panel};
 };

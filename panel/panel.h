@@ -22,6 +22,9 @@ class Form12;
 class Form14;
 class Form15;
 class Form16;
+class Form17;
+class Form18;
+class Form19;
 class Form20;
 class frmSettings;
 
@@ -45,6 +48,9 @@ struct Panel {
   Form14& form14;
   Form15& form15;
   Form16& form16;
+  Form17& form17;
+  Form18& form18;
+  Form19& form19;
   Form20& form20;
   frmSettings& settings;
 };
