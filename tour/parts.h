@@ -19,4 +19,7 @@ Route services(Panel& panel);
 /// Looks at the three locks, and turns the SIM's PIN, which is on, off and on again.
 Route locks(Panel& panel);
 
+/// Sets the bearer, compression and error correction, and turns to the fax.
+Route data(Panel& panel);
+
 }  // namespace gsm
