@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <vector>
 
 #include "panel/panel.h"
 #include "tour/routes.h"
@@ -15,6 +16,19 @@ Route messages(Panel& panel, const QString& console);
 
 /// Registers a forwarding, and turns to barring, waiting and user group.
 Route services(Panel& panel);
+
+/// Opens the menu of the module's features, goes through `parts`, each of which begins at the menu
+/// and leads back to it, and leaves the menu.
+Route features(Panel& panel, const std::vector<Route>& parts);
+
+/// Turns through the pages of the maker's own features, one of `features`. Switches nothing off.
+Route makersFeatures(Panel& panel);
+
+/// Configures the SIM toolkit, one of `features`.
+Route toolkit(Panel& panel);
+
+/// Defines a packet context, one of `features`. Wants the third one free.
+Route contexts(Panel& panel);
 
 /// Looks at the three locks, and turns the SIM's PIN, which is on, off and on again.
 Route locks(Panel& panel);

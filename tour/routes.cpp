@@ -163,7 +163,11 @@ std::optional<Route> routeOf(const QString& name, Panel& panel, const QString& c
   if (name == "pin") return simCode(panel);
   if (name == "services") {
     return joined({simCode(panel), phoneBook(panel), callsLeft(panel), messages(panel, console),
-                   services(panel), locks(panel), data(panel)});
+                   services(panel), locks(panel)});
+  }
+  if (name == "features") {
+    return joined({startUp(panel), data(panel),
+                   features(panel, {makersFeatures(panel), toolkit(panel), contexts(panel)})});
   }
   return std::nullopt;
 }
