@@ -24,7 +24,16 @@ Route features(Panel& panel, const std::vector<Route>& parts);
 /// Turns through the pages of the maker's own features, one of `features`. Switches nothing off.
 Route makersFeatures(Panel& panel);
 
+/// Configures the SIM toolkit, one of `features`.
+Route toolkit(Panel& panel);
+
+/// Defines a packet context, one of `features`. Wants the third one free.
+Route contexts(Panel& panel);
+
 /// Looks at the three locks, and turns the SIM's PIN, which is on, off and on again.
 Route locks(Panel& panel);
+
+/// Sets the bearer, compression and error correction, and turns to the fax.
+Route data(Panel& panel);
 
 }  // namespace gsm

@@ -165,7 +165,10 @@ std::optional<Route> routeOf(const QString& name, Panel& panel, const QString& c
     return joined({simCode(panel), phoneBook(panel), callsLeft(panel), messages(panel, console),
                    services(panel), locks(panel)});
   }
-  if (name == "features") return joined({startUp(panel), features(panel, {makersFeatures(panel)})});
+  if (name == "features") {
+    return joined({startUp(panel), data(panel),
+                   features(panel, {makersFeatures(panel), toolkit(panel), contexts(panel)})});
+  }
   return std::nullopt;
 }
 
