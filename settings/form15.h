@@ -1,15 +1,24 @@
 #pragma once
 
+#include <string>
+
 #include "panel/feature_window.h"
 
 namespace gsm {
 
-/// The modem's line settings.
+/// The modem's line settings. The window is preset by who opens it and reads nothing itself; it
+/// writes all of them in one pass and lets the port stay as it is.
 class Form15 : public FeatureWindow {
  public:
   explicit Form15(Panel& panel);
 
+  /// Tells on the main window the character framing of these codes; one without words leaves its
+  /// place empty.
+  void ShowFramingChoice(const std::string& framing, const std::string& parity);
+
   Frame Frame1{*this, "Frame1"};
+  Label Label1{*this, "Label1", {.In = &Frame1}};  // the status line
+  CommandButton Command1{*this, "Command1", {.Caption = "Save Configurations", .In = &Frame1}};
 
   Frame Frame2{*this, "Frame2", {.Caption = "Fixed DTE Rate", .In = &Frame1}};
   ComboBox Combo1{*this, "Combo1", {.In = &Frame2}};
@@ -49,9 +58,19 @@ class Form15 : public FeatureWindow {
   OptionButton Option25{*this, "Option25", {.Caption = "Switch From On-Off", .In = &Frame10}};
   OptionButton Option26{*this, "Option26", {.Caption = "Call ClearDown", .In = &Frame10}};
 
+  Frame Frame11{*this, "Frame11", {.Caption = "Set DSR Signal", .In = &Frame1}};
+  OptionButton Option20{*this, "Option20", {.Caption = "Always On", .In = &Frame11}};
+  OptionButton Option21{
+      *this, "Option21", {.Caption = "On-Data Mode/Off Command Mode", .In = &Frame11}};
   Frame Frame12{*this, "Frame12", {.Caption = "Echo", .In = &Frame1}};
   OptionButton Option27{*this, "Option27", {.Caption = "Disable", .In = &Frame12}};
   OptionButton Option28{*this, "Option28", {.Caption = "Enable", .In = &Frame12}};
+
+ protected:
+  void Form_Load() override;
+
+ private:
+  void saveConfigurations();
 };
 
 }  // namespace gsm

@@ -58,4 +58,16 @@ inline constexpr std::array kTerminalReady = {
     OptionCode<Form15>{"2", &Form15::Option26},
 };
 
+/// The digit of "&S".
+inline constexpr std::array kDataSetReady = {
+    OptionCode<Form15>{"0", &Form15::Option20},
+    OptionCode<Form15>{"1", &Form15::Option21},
+};
+
+/// The digit of "E".
+inline constexpr std::array kEcho = {
+    OptionCode<Form15>{"0", &Form15::Option27},
+    OptionCode<Form15>{"1", &Form15::Option28},
+};
+
 }  // namespace gsm

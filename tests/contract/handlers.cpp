@@ -7,6 +7,7 @@
 #include "phonebook/form4.h"
 #include "security/form9.h"
 #include "services/form12.h"
+#include "settings/form15.h"
 #include "sms/form8.h"
 
 namespace gsm {
@@ -105,6 +106,19 @@ void choosePin(Panel& panel) {
 }
 void showPowerPage(Panel& panel) { panel.form17.Frame9.Visible = true; }
 
+// Its eight steps.
+const std::vector<float> kLineSettings = {1, 1, 1, 1, 1, 1, 1, 1};
+
+void fillLineSettings(Panel& panel) {
+  Form15& window = panel.form15;
+  window.Combo1.Text = "9600";
+  for (OptionButton* option :
+       {&window.Option4, &window.Option12, &window.Option15, &window.Option19, &window.Option20,
+        &window.Option23, &window.Option25, &window.Option28}) {
+    option->Value = true;
+  }
+}
+
 std::vector<HandlerRow> makeHandlers() {
   std::vector<HandlerRow> rows = {
       {"Signal", "Form1", "Label8", Trap::silent, true, {1}},
@@ -185,6 +199,8 @@ std::vector<HandlerRow> makeHandlers() {
        .pauses = {1, 3},
        .prepare = showPowerPage,
        .endsByOk = true},
+      {"SaveLineSettings", "Form15", "Command1", Trap::silent, true, kLineSettings,
+       fillLineSettings},
   };
   return rows;
 }

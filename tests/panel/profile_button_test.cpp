@@ -35,9 +35,9 @@ class ProfileButton : public HealthyModemTest {
         {5, &form.Option5},   {6, &form.Option6},   {7, &form.Option7},   {8, &form.Option8},
         {9, &form.Option9},   {10, &form.Option10}, {11, &form.Option11}, {12, &form.Option12},
         {13, &form.Option13}, {14, &form.Option14}, {15, &form.Option15}, {16, &form.Option16},
-        {17, &form.Option17}, {18, &form.Option18}, {19, &form.Option19}, {22, &form.Option22},
-        {23, &form.Option23}, {24, &form.Option24}, {25, &form.Option25}, {26, &form.Option26},
-        {27, &form.Option27}, {28, &form.Option28}};
+        {17, &form.Option17}, {18, &form.Option18}, {19, &form.Option19}, {20, &form.Option20},
+        {21, &form.Option21}, {22, &form.Option22}, {23, &form.Option23}, {24, &form.Option24},
+        {25, &form.Option25}, {26, &form.Option26}, {27, &form.Option27}, {28, &form.Option28}};
     std::vector<int> numbers;
     for (const auto& [number, option] : all) {
       if (option->Value.peek()) numbers.push_back(number);
