@@ -1,9 +1,8 @@
 #include "simulator/character_set.h"
 
 #include <array>
-#include <charconv>
-#include <cstddef>
-#include <system_error>
+
+#include "simulator/hexadecimal.h"
 
 namespace gsm::simulator {
 
@@ -19,10 +18,16 @@ constexpr std::array kLetters = {
     Letter{'@', {"\x00", 1}}, Letter{'$', "\x02"},    Letter{'_', "\x11"},
     Letter{'[', "\x1B<"},     Letter{'\\', "\x1B/"},  Letter{']', "\x1B>"},
     Letter{'^', "\x1B\x14"},  Letter{'{', "\x1B("},   Letter{'|', "\x1B@"},
-    Letter{'}', "\x1B)"},     Letter{'~', "\x1B="},   Letter{'\x82', "\x05"},
-    Letter{'\x8A', "\x04"},   Letter{'\x85', "\x7F"}, Letter{'\x84', "\x7B"},
-    Letter{'\x94', "\x7C"},   Letter{'\x81', "\x7E"}, Letter{'\x8E', "\x5B"},
-    Letter{'\x99', "\x5C"},   Letter{'\x9A', "\x5E"}, Letter{'\xE1', "\x1E"},
+    Letter{'}', "\x1B)"},     Letter{'~', "\x1B="},   Letter{'\x9C', "\x01"},
+    Letter{'\x9D', "\x03"},   Letter{'\x8A', "\x04"}, Letter{'\x82', "\x05"},
+    Letter{'\x97', "\x06"},   Letter{'\x8D', "\x07"}, Letter{'\x95', "\x08"},
+    Letter{'\x80', "\x09"},   Letter{'\x8F', "\x0E"}, Letter{'\x86', "\x0F"},
+    Letter{'\xE8', "\x12"},   Letter{'\xE2', "\x13"}, Letter{'\xEA', "\x15"},
+    Letter{'\xE4', "\x18"},   Letter{'\xE9', "\x19"}, Letter{'\x92', "\x1C"},
+    Letter{'\x91', "\x1D"},   Letter{'\xE1', "\x1E"}, Letter{'\x90', "\x1F"},
+    Letter{'\x8E', "\x5B"},   Letter{'\x99', "\x5C"}, Letter{'\xA5', "\x5D"},
+    Letter{'\x9A', "\x5E"},   Letter{'\x84', "\x7B"}, Letter{'\x94', "\x7C"},
+    Letter{'\xA4', "\x7D"},   Letter{'\x81', "\x7E"}, Letter{'\x85', "\x7F"},
 };
 
 std::string codesOf(char byte) {
@@ -44,39 +49,28 @@ char takeByte(std::string_view& codes) {
   return byte;
 }
 
-std::optional<std::string> fromHexadecimal(std::string_view digits) {
-  std::string bytes;
-  for (; digits.size() >= 2; digits.remove_prefix(2)) {
-    unsigned char byte = 0;
-    const auto [stop, failure] = std::from_chars(digits.data(), digits.data() + 2, byte, 16);
-    if (failure != std::errc() || stop != digits.data() + 2) return std::nullopt;
-    bytes += static_cast<char>(byte);
-  }
-  return digits.empty() ? std::optional(bytes) : std::nullopt;
-}
-
 }  // namespace
 
+std::string toGsmAlphabet(std::string_view text) {
+  std::string codes;
+  for (const char byte : text) codes += codesOf(byte);
+  return codes;
+}
+
+std::string fromGsmAlphabet(std::string_view codes) {
+  std::string text;
+  while (!codes.empty()) text += takeByte(codes);
+  return text;
+}
+
 std::string encoded(std::string_view text, int set) {
-  if (set != kHexadecimalSet) return std::string(text);
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
-  std::string digits;
-  for (const char byte : text) {
-    for (const char code : codesOf(byte)) {
-      digits += kDigits[static_cast<unsigned char>(code) / 16];
-      digits += kDigits[static_cast<unsigned char>(code) % 16];
-    }
-  }
-  return digits;
+  return set == kHexadecimalSet ? toHexadecimal(toGsmAlphabet(text)) : std::string(text);
 }
 
 std::optional<std::string> decoded(std::string_view text, int set) {
   if (set != kHexadecimalSet) return std::string(text);
-  const auto bytes = fromHexadecimal(text);
-  if (!bytes) return std::nullopt;
-  std::string meant;
-  for (std::string_view codes = *bytes; !codes.empty();) meant += takeByte(codes);
-  return meant;
+  const auto codes = fromHexadecimal(text);
+  return codes ? std::optional(fromGsmAlphabet(*codes)) : std::nullopt;
 }
 
 }  // namespace gsm::simulator

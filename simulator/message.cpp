@@ -50,6 +50,13 @@ std::string withText(const std::string& header, const Message& message) {
   return isReport ? header : header + "\r\n" + message.text;
 }
 
+Pdu pduOf(const Message& message, std::string_view centre) {
+  const auto& [status, number, time, text, fields, pdu] = message;
+  if (!fields.empty()) return pdu;
+  return isReceived(status) ? deliveryPdu(centre, number, time, text)
+                            : submissionPdu(centre, number, text);
+}
+
 std::optional<MessageFlaw> flawOf(const Message& message) {
   const bool received = isReceived(message.status);
   const bool numbered = !message.number.empty() || received;

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "simulator/pdu.h"
+
 namespace gsm::simulator {
 
 enum class MessageStatus { kReceivedUnread, kReceivedRead, kStoredUnsent, kStoredSent };
@@ -29,6 +31,7 @@ struct Message {
   // What a read tells in place of number and time: a status report and a page of a broadcast have
   // fields of their own.
   std::string fields = {};
+  Pdu pdu = {};  // the same for a host in PDU mode
 
   friend bool operator==(const Message&, const Message&) = default;
 };
@@ -38,6 +41,9 @@ std::string headerOf(const Message& message);
 
 // `header` with the message's text on the line behind it. A status report has none.
 std::string withText(const std::string& header, const Message& message);
+
+// The message as a host in PDU mode gets it, by way of the service centre.
+Pdu pduOf(const Message& message, std::string_view centre);
 
 // The messages by their locations, with holes where there is none.
 using MessageEntries = std::map<int, Message>;

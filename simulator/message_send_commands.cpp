@@ -1,8 +1,10 @@
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
 
 #include "simulator/delayed.h"
+#include "simulator/pdu_format.h"
 #include "simulator/phone_book.h"
 #include "simulator/phone_number.h"
 #include "simulator/profile_number.h"
@@ -48,41 +50,64 @@ std::optional<std::string> numberIn(const Arguments& given) {
   return good ? std::optional(number) : std::nullopt;
 }
 
-// Why no text is asked for; nothing when one is.
-std::optional<MessageError> trouble(const ModemState& state) {
-  if (state.settings.profile.textMode == 0) return MessageError::kNotSupported;
-  return messageTrouble(state.sim.status());
+// What AT+CSMP has made the first octet of what is sent in text mode asks for.
+bool wantsReport(const ModemState& state) {
+  return (state.settings.profile.messageKind & kReportWanted) != 0;
 }
 
 // A message that fails costs a reference, too.
-Reply sent(ModemState& state, const Command& command, const std::string& number,
+Reply sent(ModemState& state, const Command& command, const Submission& message,
            const Outcome& outcome) {
   const int reference = state.messages.takeReference();
   if (!state.network.hasService()) return error(MessageError::kNoService);
   if (outcome.refusal) return error(*outcome.refusal);
-  state.messages.noteSent(reference, number);
+  state.messages.noteSent(reference, message.number, message.wantsReport);
   return ok(headed(command, std::to_string(reference)));
 }
 
-Reply send(ModemState& state, const Command& command, const std::string& number,
-           const std::string& text) {
-  if (text.size() > kLongestMessage) return error(MessageError::kTextModeParameter);
-  if (state.messages.serviceCentre.empty()) return error(MessageError::kNoServiceCentre);
+Reply send(ModemState& state, const Command& command, const Submission& message) {
+  if (message.text.size() > kLongestMessage) return error(MessageError::kTextModeParameter);
+  if (!message.namesCentre && state.messages.serviceCentre.empty()) {
+    return error(MessageError::kNoServiceCentre);
+  }
   if (!state.network.hasService()) return error(MessageError::kNoService);
-  const Outcome outcome = outcomeOf(state, number);
-  return delayed(state, outcome.delay, [&state, command, number, outcome] {
-    return sent(state, command, number, outcome);
+  const Outcome outcome = outcomeOf(state, message.number);
+  return delayed(state, outcome.delay, [&state, command, message, outcome] {
+    return sent(state, command, message, outcome);
   });
+}
+
+// Asks for a message in PDU mode, of `length` octets, and does `work` with it.
+Reply askForMessage(ModemState& state, std::optional<int> length,
+                    std::function<Reply(const Submission&)> work) {
+  if (!length) return error(MessageError::kPduModeParameter);
+  return askForText(state, [length = *length, work = std::move(work)](const std::string& digits) {
+    const auto message = readSubmission(digits, length);
+    return message ? work(*message) : error(MessageError::kPduModeParameter);
+  });
+}
+
+// "=LENGTH". A message to nobody can only be kept.
+Reply sendInPduMode(ModemState& state, const Command& command) {
+  if (command.arguments.size() > 1) return error(MessageError::kPduModeParameter);
+  return askForMessage(state, command.arguments.number(0),
+                       [&state, command](const Submission& message) {
+                         if (message.number.empty()) return error(MessageError::kPduModeParameter);
+                         return send(state, command, message);
+                       });
 }
 
 // "=NUMBER[,TYPE]"
 Reply sendMessage(ModemState& state, const Command& command) {
   if (command.arguments.size() == 0 || command.arguments.size() > 2) return error();
-  if (const auto reason = trouble(state)) return error(*reason);
+  if (const auto trouble = messageTrouble(state.sim.status())) return error(*trouble);
+  if (state.settings.profile.textMode == 0) return sendInPduMode(state, command);
   const auto number = numberIn(command.arguments);
   if (!number) return error(MessageError::kTextModeParameter);
   return askForText(state, [&state, command, number = *number](const std::string& text) {
-    return send(state, command, number, text);
+    return send(
+        state, command,
+        {.number = number, .text = text, .wantsReport = wantsReport(state), .namesCentre = false});
   });
 }
 
@@ -95,11 +120,28 @@ Reply store(ModemState& state, const Command& command, const Message& message) {
   return ok(headed(command, std::to_string(*location)));
 }
 
+// "=LENGTH[,STATUS]", the status as a number. Only what goes out is written.
+Reply writeInPduMode(ModemState& state, const Command& command) {
+  constexpr Range kStored = {static_cast<int>(MessageStatus::kStoredUnsent),
+                             static_cast<int>(MessageStatus::kStoredSent)};
+  const Arguments& given = command.arguments;
+  const auto number = given.has(1) ? given.number(1) : kStored.least;
+  if (given.size() > 2 || !number || !kStored.holds(*number)) {
+    return error(MessageError::kPduModeParameter);
+  }
+  return askForMessage(
+      state, given.number(0),
+      [&state, command, status = static_cast<MessageStatus>(*number)](const Submission& message) {
+        return store(state, command, {status, message.number, {}, message.text});
+      });
+}
+
 // "[=NUMBER[,TYPE[,STATUS]]]"; without a status it is still to be sent.
 Reply writeMessage(ModemState& state, const Command& command) {
   const Arguments& given = command.arguments;
   if (given.size() > 3) return error();
-  if (const auto reason = trouble(state)) return error(*reason);
+  if (const auto trouble = messageTrouble(state.sim.status())) return error(*trouble);
+  if (state.settings.profile.textMode == 0) return writeInPduMode(state, command);
   const auto number = given.has(0) ? numberIn(given) : std::string();
   const auto status =
       given.has(2) ? parseMessageStatus(given.text(2)) : MessageStatus::kStoredUnsent;

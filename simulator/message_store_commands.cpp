@@ -5,7 +5,7 @@
 #include "simulator/sim_trouble.h"
 #include "simulator/text.h"
 
-// The messages in the modem's memories, in text mode.
+// The messages in the modem's memories.
 namespace gsm::simulator {
 
 namespace {
@@ -17,13 +17,6 @@ template <CommandHandler handler>
 Reply withCard(ModemState& state, const Command& command) {
   const auto trouble = messageTrouble(state.sim.status());
   return trouble ? error(*trouble) : handler(state, command);
-}
-
-// A command whose answer is for people to read. There is no other mode here.
-template <CommandHandler handler>
-Reply inTextMode(ModemState& state, const Command& command) {
-  if (state.settings.profile.textMode == 0) return error(MessageError::kNotSupported);
-  return withCard<handler>(state, command);
 }
 
 // "USED,TOTAL" of a memory.
@@ -53,6 +46,18 @@ Reply listMemories(ModemState&, const Command& command) {
   return ok(headed(command, "((\"SM\",\"BM\",\"SR\"),(\"SM\"))"));
 }
 
+bool isTextMode(const ModemState& state) { return state.settings.profile.textMode != 0; }
+
+// The number of a status in PDU mode: they count in the order of their kind.
+constexpr int numberOf(MessageStatus status) { return static_cast<int>(status); }
+
+// What is told of a message behind its location in PDU mode: its status, an empty field for a name,
+// its length, and the message itself.
+std::string inPduMode(const ModemState& state, const Message& message) {
+  const auto [digits, length] = pduOf(message, state.messages.serviceCentre);
+  return std::to_string(numberOf(message.status)) + ",," + std::to_string(length) + "\r\n" + digits;
+}
+
 // "=LOCATION". An empty one has nothing to tell, which is no error.
 Reply readMessage(ModemState& state, const Command& command) {
   const auto location = command.arguments.number(0);
@@ -63,38 +68,63 @@ Reply readMessage(ModemState& state, const Command& command) {
   if (found == memory.entries().end()) return ok();
   const Message message = found->second;
   memory.markRead(*location);
+  if (!isTextMode(state)) return ok(headed(command, inPduMode(state, message)));
   return ok(
       withText(headed(command, quoted(nameOf(message.status)) + "," + headerOf(message)), message));
 }
 
 constexpr std::string_view kAll = "ALL";
+constexpr int kAllInNumbers = 4;
 
 // A list has a field for the time of what never had one, too.
-std::string listed(const Command& command, int location, const Message& message) {
+std::string listed(const ModemState& state, const Command& command, int location,
+                   const Message& message) {
+  const std::string place = std::to_string(location) + ",";
+  if (!isTextMode(state)) return headed(command, place + inPduMode(state, message));
   const bool timeless = message.fields.empty() && !isReceived(message.status);
-  return withText(headed(command, std::to_string(location) + "," + quoted(nameOf(message.status)) +
-                                      "," + headerOf(message) + (timeless ? "," : "")),
+  return withText(headed(command, place + quoted(nameOf(message.status)) + "," + headerOf(message) +
+                                      (timeless ? "," : "")),
                   message);
+}
+
+// What a list is to tell: the messages of a status, or all of them.
+struct Choice {
+  bool all = false;
+  std::optional<MessageStatus> status = {};
+};
+
+// Words choose in text mode and numbers in PDU mode. Nothing for what is neither.
+std::optional<Choice> choiceIn(const ModemState& state, const Arguments& given) {
+  if (given.size() > 1) return std::nullopt;
+  if (given.size() == 0) return Choice{.status = MessageStatus::kReceivedUnread};
+  if (isTextMode(state)) {
+    const Choice choice{.all = given.text(0) == kAll, .status = parseMessageStatus(given.text(0))};
+    return choice.all || choice.status ? std::optional(choice) : std::nullopt;
+  }
+  const auto number = given.number(0);
+  if (!number || *number < 0 || *number > kAllInNumbers) return std::nullopt;
+  if (*number == kAllInNumbers) return Choice{.all = true};
+  return Choice{.status = static_cast<MessageStatus>(*number)};
 }
 
 // "=STATUS"; without one, what is new.
 Reply listMessages(ModemState& state, const Command& command) {
-  const Arguments& given = command.arguments;
-  const bool all = given.text(0) == kAll;
-  const auto status =
-      given.size() == 0 ? MessageStatus::kReceivedUnread : parseMessageStatus(given.text(0));
-  if (given.size() > 1 || (!all && !status)) return error(MessageError::kTextModeParameter);
+  const auto choice = choiceIn(state, command.arguments);
+  if (!choice)
+    return error(isTextMode(state) ? MessageError::kTextModeParameter
+                                   : MessageError::kPduModeParameter);
   MessageStore& memory = state.messages.reading();
   std::string lines;
   for (const auto& [location, message] : MessageEntries(memory.entries())) {
-    if (!all && message.status != status) continue;
-    lines.append(lines.empty() ? "" : "\r\n").append(listed(command, location, message));
+    if (!choice->all && message.status != choice->status) continue;
+    lines.append(lines.empty() ? "" : "\r\n").append(listed(state, command, location, message));
     memory.markRead(location);
   }
   return lines.empty() ? ok() : ok(lines);
 }
 
-Reply listStatuses(ModemState&, const Command& command) {
+Reply listStatuses(ModemState& state, const Command& command) {
+  if (!isTextMode(state)) return ok(headed(command, Range{0, kAllInNumbers}.listing()));
   return ok(headed(command, "(\"REC UNREAD\",\"REC READ\",\"STO UNSENT\",\"STO SENT\",\"ALL\")"));
 }
 
@@ -141,10 +171,10 @@ constexpr CommandRow kRows[] = {
      .query = withCard<queryMemories>,
      .set = withCard<selectMemories>,
      .test = listMemories},
-    {.name = "+CMGR", .set = inTextMode<readMessage>, .test = isSupported},
+    {.name = "+CMGR", .set = withCard<readMessage>, .test = isSupported},
     fromStandard({.name = "+CMGL",
-                  .execute = inTextMode<listMessages>,
-                  .set = inTextMode<listMessages>,
+                  .execute = withCard<listMessages>,
+                  .set = withCard<listMessages>,
                   .test = listStatuses}),
     {.name = "+CMGD", .set = withCard<deleteMessages>, .test = listDeletions},
 };

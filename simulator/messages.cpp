@@ -4,6 +4,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "simulator/pdu_format.h"
 #include "simulator/phone_number.h"
 #include "simulator/text.h"
 
@@ -18,11 +19,7 @@ constexpr const char* kStandingTime = "26/01/31,12:00:00+04";
 // From a message's acceptance by the network to its arrival.
 constexpr seconds kUntilReport(5);
 
-// Bits of a message's first byte, which AT+CSMP sets and a report has.
-constexpr int kWantsReport = 32;
-constexpr int kIsReport = 2;
-
-constexpr const char* kBroadcastKind = "50";
+constexpr int kBroadcastKind = 50;
 
 std::string joined(std::initializer_list<std::string> fields) {
   std::string text;
@@ -48,9 +45,9 @@ MessageStore* Messages::memory(std::string_view name) {
   return nullptr;
 }
 
-void Messages::noteSent(int reference, const std::string& number) {
+void Messages::noteSent(int reference, const std::string& number, bool wantsReport) {
   sent_ = {reference, number, now()};
-  if ((settings_.profile.messageKind & kWantsReport) == 0) return;
+  if (!wantsReport) return;
   timeline_.after(kUntilReport, [this, sent = *sent_] { tellReport(sent, 0); });
 }
 
@@ -71,7 +68,8 @@ bool Messages::page(const std::string& text) {
   constexpr Way kWays[] = {Way::kDrop, Way::kKeepAndTell, Way::kHandOver, Way::kKeepAndTell};
   if (broadcast.mode != 0) return false;
   Message page{.status = MessageStatus::kReceivedUnread, .number = {}, .time = {}, .text = text};
-  page.fields = joined({std::to_string(++pages_), kBroadcastKind, "1", "1", "1"});
+  page.fields = joined({std::to_string(++pages_), std::to_string(kBroadcastKind), "1", "1", "1"});
+  page.pdu = pagePdu(pages_, kBroadcastKind, text);
   return deliver(kWays[settings_.profile.broadcastRoute], broadcasts, "+CBM", std::move(page));
 }
 
@@ -81,9 +79,22 @@ void Messages::tellReport(const Sent& sent, int status) {
   constexpr Way kWays[] = {Way::kDrop, Way::kHandOver, Way::kKeepAndTell};
   Message report{.status = MessageStatus::kReceivedUnread, .number = {}, .time = {}, .text = {}};
   report.fields =
-      joined({std::to_string(kIsReport), std::to_string(sent.reference), numberFields(sent.number),
+      joined({std::to_string(kReport), std::to_string(sent.reference), numberFields(sent.number),
               quoted(sent.time), quoted(now()), std::to_string(status)});
+  report.pdu = reportPdu(serviceCentre, {.reference = sent.reference,
+                                         .number = sent.number,
+                                         .sent = sent.time,
+                                         .arrived = now(),
+                                         .status = status});
   deliver(kWays[settings_.profile.reportRoute], reports, "+CDS", std::move(report));
+}
+
+// In PDU mode only a message from somebody has a field in front, which is empty.
+std::string Messages::told(std::string_view notice, const Message& message) const {
+  const std::string head = std::string(notice) + ": ";
+  if (settings_.profile.textMode != 0) return withText(head + headerOf(message), message);
+  const auto [digits, length] = pduOf(message, serviceCentre);
+  return head + (message.fields.empty() ? "," : "") + std::to_string(length) + "\r\n" + digits;
 }
 
 // A notice of what has been kept has the name of the other one with an I behind it.
@@ -91,7 +102,7 @@ bool Messages::deliver(Way way, MessageStore& memory, std::string_view notice, M
   if (way == Way::kDrop) return true;
   const std::string name(notice);
   if (way == Way::kHandOver) {
-    notices_.line(withText(name + ": " + headerOf(message), message));
+    notices_.line(told(notice, message));
     return true;
   }
   const auto location = memory.firstFree();

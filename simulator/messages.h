@@ -46,8 +46,9 @@ class Messages {
   // Counts a message to `number` and returns its reference, 0 to 255 and then 0 again.
   int takeReference() { return reference_++ % 256; }
 
-  // The message has been sent. Its report, when it asked for one, comes some seconds later.
-  void noteSent(int reference, const std::string& number);
+  // The message has been sent. Its report, when it asked for one, comes some seconds later. In text
+  // mode AT+CSMP asks for all of them.
+  void noteSent(int reference, const std::string& number, bool wantsReport);
 
   // The network's report on the message that was sent last comes now, instead of later when it was
   // still to come. `status` is 0 for one that arrived. False when none was sent.
@@ -70,6 +71,7 @@ class Messages {
   enum class Way { kDrop, kKeep, kKeepAndTell, kHandOver };
 
   std::string now() const;
+  std::string told(std::string_view notice, const Message& message) const;
   bool deliver(Way way, MessageStore& memory, std::string_view notice, Message message);
   void tellReport(const Sent& sent, int status);
 

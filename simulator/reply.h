@@ -36,6 +36,7 @@ enum class MessageError {
   kRejected = 21,
   kCongestion = 42,
   kNotSupported = 303,
+  kPduModeParameter = 304,
   kTextModeParameter = 305,
   kSimMissing = 310,
   kPinWanted = 311,

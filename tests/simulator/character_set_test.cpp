@@ -24,6 +24,17 @@ TEST(CharacterSet, HexadecimalComesBack) {
   EXPECT_EQ(decoded("416e6E61", kHexadecimalSet), "Anna");
 }
 
+TEST(CharacterSet, EveryCodeOfTheGsmAlphabetComesBack) {
+  for (int code = 0; code < 128; ++code) {
+    // Of those that the factory's set has no byte for, these look like another letter's byte.
+    if (code == '$' || code == '@' || code == '_') continue;
+    const std::string codes(1, static_cast<char>(code));
+    EXPECT_EQ(toGsmAlphabet(fromGsmAlphabet(codes)), codes) << code;
+  }
+  EXPECT_EQ(toGsmAlphabet("\x9C\x90\xA5"), "\x01\x1F]");
+  EXPECT_EQ(fromGsmAlphabet("\x15\x7D"), "\xEA\xA4");
+}
+
 TEST(CharacterSet, OddOrOtherDigitsAreNone) {
   for (const char* bad : {"4", "416", "4G", "+1", " 1", "Anna"}) {
     EXPECT_EQ(decoded(bad, kHexadecimalSet), std::nullopt) << bad;

@@ -61,13 +61,6 @@ TEST_F(MessageStoreCommands, ErrorsHaveTheirCodesOnlyWhenAskedFor) {
   EXPECT_EQ(bench_.ask("AT+CMGR=21"), kError);
 }
 
-TEST_F(MessageStoreCommands, TextIsForTextModeOnly) {
-  bench_.ask("AT+CMGF=0");
-  for (const char* command : {"AT+CMGR=1", "AT+CMGL=\"ALL\"", "AT+CMGS=10", "AT+CMGW=10"}) {
-    EXPECT_EQ(bench_.ask(command), code(303)) << command;
-  }
-}
-
 struct CardTrouble {
   const char* sim;
   int number;
