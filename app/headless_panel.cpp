@@ -7,8 +7,8 @@
 namespace gsm {
 
 HeadlessPanel::HeadlessPanel(std::filesystem::path folder, LocalTime now,
-                             DatabaseEngine* otherDatabase)
-    : machine(std::move(folder), now, otherDatabase),
+                             DatabaseEngine* otherDatabase, std::ostream* record)
+    : machine(std::move(folder), now, otherDatabase, record),
       modem(machine.time, machine.line),
       windows_(std::make_unique<Windows>(machine.platform())),
       panel(windows_->panel) {

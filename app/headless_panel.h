@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <iosfwd>
 #include <memory>
 
 #include "panel/panel.h"
@@ -15,9 +16,9 @@ class Windows;
 class HeadlessPanel {
  public:
   /// `folder` is the program's own; `now` is the wall clock's time at the start. `otherDatabase`,
-  /// if given, stands in for the real engine.
+  /// if given, stands in for the real engine; `record`, if given, gets a record of the line.
   HeadlessPanel(std::filesystem::path folder, LocalTime now,
-                DatabaseEngine* otherDatabase = nullptr);
+                DatabaseEngine* otherDatabase = nullptr, std::ostream* record = nullptr);
   ~HeadlessPanel();
   HeadlessPanel(const HeadlessPanel&) = delete;
   HeadlessPanel& operator=(const HeadlessPanel&) = delete;

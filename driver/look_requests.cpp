@@ -136,6 +136,7 @@ Json Session::state(const Request&) {
                   {"settings", toUtf8(std::string(port.Settings))},
                   {"handshaking", static_cast<int>(port.Handshaking)}}},
                 {"settings_store", settings}});
+  if (replay_ != nullptr) state["replay"] = replayState();
   return state;
 }
 

@@ -19,6 +19,7 @@ const Session::Operation* Session::operation(std::string_view name) {
       {"forget", &Session::forget, false},
       {"receive", &Session::receive, true},
       {"event", &Session::event, true},
+      {"replay", &Session::replay, false},
       {"modem", &Session::modem, true},
       {"ports", &Session::ports, true},
       {"click", &Session::click, true},
@@ -43,6 +44,12 @@ const Session::Operation* Session::operation(std::string_view name) {
   const auto found = std::find_if(kOperations.begin(), kOperations.end(),
                                   [name](const Operation& each) { return each.name == name; });
   return found == kOperations.end() ? nullptr : &*found;
+}
+
+// Handlers that still wait may speak to the modem, and it to the line.
+Session::~Session() {
+  if (world_ != nullptr) world_->time().abandon();
+  modem_.reset();
 }
 
 std::string Session::answer(std::string_view line) {
@@ -82,13 +89,21 @@ Json Session::start(const Request& request) {
   std::optional<Plug> plug;
   if (request.has("modem") && !request.raw("modem").is_null()) plug = plugOf(request.raw("modem"));
 
+  if (request.has("record")) {
+    const Json& name = request.raw("record");
+    if (!name.is_string()) throw BadRequest("field 'record' must be a text");
+    record_.open(name.get<std::string>(), std::ios::binary);
+    if (!record_) throw BadRequest("there can't be a file '" + name.get<std::string>() + "'");
+  }
   folder_ = folder;
-  world_ = std::make_unique<HeadlessPanel>(folder, now);
+  world_ =
+      std::make_unique<HeadlessPanel>(folder, now, nullptr, record_.is_open() ? &record_ : nullptr);
   world_->machine.ports.set(ports);
   if (plug) {
     world_->machine.line.plug(plug->port);
     if (plug->speed) world_->modem.setSpeed(*plug->speed);
   }
+  if (otherModem_) modem_ = otherModem_(world_->machine);
   for (const auto& prepared : std::exchange(preparations_, {})) prepared(*world_);
   world_->start();
   return Json::object();

@@ -1,23 +1,35 @@
 #pragma once
 
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "app/headless_panel.h"
 #include "controls/controls.h"
 #include "controls/window.h"
 #include "driver/request.h"
+#include "platform/headless/modem_replay.h"
 
 namespace gsm::driver {
 
 /// One run of the panel, told what to do by requests and asked what it shows.
 class Session {
  public:
+  /// Plugs another modem than the scripted one in as that of the world's line, and keeps it alive.
+  using OtherModem = std::function<std::shared_ptr<void>(HeadlessPlatform& machine)>;
+
+  /// `otherModem`, if given, is asked at the start.
+  explicit Session(OtherModem otherModem = {}) : otherModem_(std::move(otherModem)) {}
+  ~Session();
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
   /// Carries out one line, a request in JSON, and returns the answer in JSON, without a line end.
   /// Never throws: a line that can't be understood has an answer that says why.
   std::string answer(std::string_view line);
@@ -43,6 +55,8 @@ class Session {
   Json forget(const Request& request);
   Json receive(const Request& request);
   Json event(const Request& request);
+  Json replay(const Request& request);
+  Json replayState() const;
   Json modem(const Request& request);
   Json ports(const Request& request);
 
@@ -85,7 +99,11 @@ class Session {
   template <class... Kind>
   auto controlAs(const Request& request, const char* deed);
 
+  const OtherModem otherModem_;
+  std::ofstream record_;                 // of the line, when "start" names a file for it
+  std::shared_ptr<ModemReplay> replay_;  // the line's modem, once a record is played back
   std::unique_ptr<HeadlessPanel> world_;
+  std::shared_ptr<void> modem_;   // what otherModem_ has plugged in
   std::filesystem::path folder_;  // the program's own, once it has been started
   std::vector<std::function<void(HeadlessPanel& world)>> preparations_;  // for the start
   int refused_ = 0;

@@ -17,9 +17,12 @@ void HeadlessProgram::end() {
 }
 
 HeadlessPlatform::HeadlessPlatform(std::filesystem::path folder, LocalTime start,
-                                   DatabaseEngine* otherDatabase)
+                                   DatabaseEngine* otherDatabase, std::ostream* record)
     : time(start, [this] { return handlers_.depth() == 0; }),
       files(std::move(folder)),
+      recording_(record == nullptr ? nullptr
+                                   : std::make_unique<RecordingDevice>(line, *record, time)),
+      serialDevice_(recording_ == nullptr ? static_cast<SerialDevice&>(line) : *recording_),
       platform_{.clock = time,
                 .loop = time,
                 .handlers = handlers_,
@@ -27,7 +30,7 @@ HeadlessPlatform::HeadlessPlatform(std::filesystem::path folder, LocalTime start
                 .program = program_,
                 .files = files,
                 .ports = ports,
-                .serialDevice = line,
+                .serialDevice = serialDevice_,
                 .settings = settings,
                 .database = otherDatabase != nullptr ? *otherDatabase : database,
                 .windows = windows} {}

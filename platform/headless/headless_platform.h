@@ -1,7 +1,9 @@
 #pragma once
 
 #include <filesystem>
+#include <iosfwd>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -10,6 +12,7 @@
 #include "platform/headless/headless_ports.h"
 #include "platform/headless/virtual_time.h"
 #include "platform/platform.h"
+#include "platform/recording_device.h"
 #include "platform/sqlite/sqlite_engine.h"
 
 namespace gsm {
@@ -29,21 +32,22 @@ class HeadlessSettings : public SettingsStore {
 /// Ends a run by unwinding its handlers.
 class HeadlessProgram : public Program {
  public:
-  HeadlessProgram(Files& files, HeadlessLine& line) : files_(files), line_(line) {}
+  HeadlessProgram(Files& files, SerialDevice& line) : files_(files), line_(line) {}
 
   [[noreturn]] void end() override;
 
  private:
   Files& files_;
-  HeadlessLine& line_;
+  SerialDevice& line_;
 };
 
 /// Everything that the windows need, on virtual time, without a screen or a serial port.
 class HeadlessPlatform {
  public:
-  /// `otherDatabase`, if given, stands in for the real engine; it outlives the platform.
+  /// `otherDatabase`, if given, stands in for the real engine; `record`, if given, gets a record of
+  /// the line. Both outlive the platform.
   HeadlessPlatform(std::filesystem::path folder, LocalTime start,
-                   DatabaseEngine* otherDatabase = nullptr);
+                   DatabaseEngine* otherDatabase = nullptr, std::ostream* record = nullptr);
 
   HandlerStack& handlers() { return handlers_; }
   Platform& platform() { return platform_; }
@@ -58,7 +62,9 @@ class HeadlessPlatform {
   std::vector<Window*> windows;
 
  private:
-  HeadlessProgram program_{files, line};
+  std::unique_ptr<RecordingDevice> recording_;
+  SerialDevice& serialDevice_;  // the line, or what records it
+  HeadlessProgram program_{files, serialDevice_};
   HandlerStack handlers_{time, boxes, program_};
   Platform platform_;
 };

@@ -28,6 +28,7 @@ class TellingDevice : public SerialDevice {
   }
   void readOn() override { device_.readOn(); }
   void write(std::string_view bytes) override { device_.write(bytes); }
+  bool isGone() const override { return device_.isGone(); }
 
  private:
   void tellOf(int number, const RuntimeFailure& failure);

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <clocale>
 #include <iostream>
+#include <memory>
 #include <utility>
 
 namespace gsm {
@@ -13,8 +14,13 @@ Desktop::Desktop(const Options& options)
       portNames_(options.programFolder),
       ports_(portNames_, locks_),
       serialPort_(clock_, loop_, portNames_, locks_),
-      serialDevice_(serialPort_, ports_,
-                    [](const std::string& text) { std::cerr << text << std::endl; }),
+      tellingDevice_(serialPort_, ports_,
+                     [](const std::string& text) { std::cerr << text << std::endl; }),
+      recordingDevice_(options.record == nullptr ? nullptr
+                                                 : std::make_unique<RecordingDevice>(
+                                                       tellingDevice_, *options.record, clock_)),
+      serialDevice_(recordingDevice_ == nullptr ? static_cast<SerialDevice&>(tellingDevice_)
+                                                : *recordingDevice_),
       settings_(options.programFolder / "settings.ini"),
       database_(sqlite_, [](const std::string& text) { std::cerr << text << std::endl; }),
       program_([this, atEnd = options.atEnd] {

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <iosfwd>
 #include <memory>
 #include <vector>
 
@@ -19,6 +20,7 @@
 #include "platform/qt/qt_event_loop.h"
 #include "platform/qt/qt_message_boxes.h"
 #include "platform/qt/qt_serial_device.h"
+#include "platform/recording_device.h"
 #include "platform/sqlite/sqlite_engine.h"
 #include "platform/sqlite/telling_engine.h"
 
@@ -31,6 +33,7 @@ class Desktop {
     std::filesystem::path programFolder;  // of the program's own files
     double speed = 1;                     // how much faster than real the clock runs
     std::function<void()> atEnd;          // done first when the program ends
+    std::ostream* record = nullptr;       // gets a record of the line; outlives the desktop
   };
 
   /// Needs Qt's application object, which from now on doesn't quit with its last window.
@@ -56,7 +59,9 @@ class Desktop {
   UucpLocks locks_;
   PosixPortProbe ports_;
   QtSerialDevice serialPort_;
-  TellingDevice serialDevice_;
+  TellingDevice tellingDevice_;
+  std::unique_ptr<RecordingDevice> recordingDevice_;
+  SerialDevice& serialDevice_;  // what tells, or what records that
   IniSettingsStore settings_;
   SqliteEngine sqlite_;
   TellingEngine database_;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <iosfwd>
 #include <memory>
 #include <optional>
 #include <string>
@@ -21,6 +22,7 @@ struct Machine {
   std::optional<int> modemPort = 3;
   int modemSpeed = 9600;
   LocalTime now = {2026, 3, 1, 10, 0, 0};
+  std::ostream* record = nullptr;  // gets a record of the line
 };
 
 /// The whole panel on virtual time, with a scripted modem, real files in a folder of the test's

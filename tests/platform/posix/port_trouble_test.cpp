@@ -100,8 +100,10 @@ struct RefusingDevice : SerialDevice {
   void close() override {}
   void configure(const LineSettings&, Handshaking) override {}
   void write(std::string_view) override {}
+  bool isGone() const override { return gone; }
 
   std::string refusal;
+  bool gone = false;
 };
 
 class TellingDeviceTest : public PortTroubleTest {
@@ -119,7 +121,6 @@ class TellingDeviceTest : public PortTroubleTest {
     return told_;
   }
 
- private:
   RefusingDevice refusing_;
   std::string told_;
   TellingDevice device_{refusing_, probe_, [this](const std::string& text) { told_ += text; }};
@@ -147,6 +148,12 @@ TEST_F(TellingDeviceTest, TellsOfAnotherReasonAndOfOneThatHasComeBack) {
 TEST_F(TellingDeviceTest, TellsOfAPortThatIsntThere) {
   EXPECT_TRUE(
       toldOf(4, "Invalid Port Number").starts_with("COM4 can't be used: there is no device "));
+}
+
+TEST_F(TellingDeviceTest, TellsWhetherTheDeviceBeneathHasGone) {
+  EXPECT_FALSE(device_.isGone());
+  refusing_.gone = true;
+  EXPECT_TRUE(device_.isGone());
 }
 
 }  // namespace
