@@ -15,8 +15,9 @@ Route toolkit(Panel& panel) {
                 window.Label2.Caption.peek() ==
                     "Current Status: Mode:  DeActivate SIM ToolKit Functionalities";
        }},
-      {"toolkit configured", inTurn({choose(window.Combo1, 2), type(window.Text1, "160060C01F")}),
-       "the box for the configuration holds it",
+      {"configuration opened", choose(window.Combo1, 2), "the box for it is there",
+       [&] { return window.Text1.Visible.peek() && window.Label5.Visible.peek(); }},
+      {"configuration typed", type(window.Text1, "160060C01F"), "the box holds it",
        [&] { return window.Text1.Text.peek() == "160060C01F"; }},
       {"configuration sent", click(window.Command1), "the modem wants a reset",
        [&] {

@@ -1,0 +1,249 @@
+#include <gtest/gtest.h>
+
+#include "tests/module/contexts_test.h"
+#include "tests/support/property_watch.h"
+
+namespace gsm {
+namespace {
+
+class ContextsChange : public ContextsTest {
+ protected:
+  void SetUp() override {
+    ContextsTest::SetUp();
+    load(information(kInternet));
+  }
+  void fillIn(int number, int type, const std::string& name) {
+    if (number >= 0) pick(form().Combo1, number);
+    if (type >= 0) pick(form().Combo2, type);
+    this->type(form().Text1, name);
+  }
+};
+
+TEST_F(ContextsChange, IsSentAndThenReadAnew) {
+  fillIn(2, 1, "intranet");
+  leaveInTranscript("\r\nERROR\r\n");
+  reply("AT+CGDCONT=3,\"PPP\",\"intranet\"", kOk);
+  reply("AT+CGDCONT?", lines({kInternet, "+CGDCONT: 3,\"PPP\",\"intranet\",,0,0"}));
+  click(form().Command1);
+  EXPECT_EQ(line(), "");
+  EXPECT_EQ(transcript(), "");
+  EXPECT_EQ(grid(), Texts{"1|IP|internet"});
+  EXPECT_EQ(form().Text1.Text.peek(), "intranet");
+  run(2.1);
+  EXPECT_EQ(form().Text1.Text.peek(), "");
+  EXPECT_EQ(line(), "");
+  EXPECT_EQ(grid(), Texts{});
+  EXPECT_EQ(form().Combo1.Text.peek(), "");
+  settle();
+  EXPECT_EQ(sent(), (Texts{"AT+CGDCONT=3,\"PPP\",\"intranet\"\r", "AT+CGDCONT?\r"}));
+  EXPECT_EQ(grid(), (Texts{"1|IP|internet", "3|PPP|intranet"}));
+  EXPECT_EQ(line(), "Current Status");
+  EXPECT_EQ(transcript(), "");
+  expectAtRest();
+}
+
+struct ChangeRow {
+  std::string name;
+  int number;
+  int type;
+  std::string text;
+  std::string sent;
+};
+
+class ContextCommand : public ContextsChange, public ::testing::WithParamInterface<ChangeRow> {};
+
+TEST_P(ContextCommand, HoldsWhatIsChosenAndTyped) {
+  fillIn(GetParam().number, GetParam().type, GetParam().text);
+  press(form().Command1);
+  EXPECT_EQ(sent(), (Texts{GetParam().sent + "\r", "AT+CGDCONT?\r"}));
+  expectAtRest();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Of, ContextCommand,
+    ::testing::Values(
+        ChangeRow{"First", 0, 0, "internet", "AT+CGDCONT=1,\"IP\",\"internet\""},
+        ChangeRow{"Second", 1, 1, "b", "AT+CGDCONT=2,\"PPP\",\"b\""},
+        ChangeRow{"Fourth", 3, 0, "d", "AT+CGDCONT=4,\"IP\",\"d\""},
+        ChangeRow{"NameOfTwentyCharacters", 0, 0, "abcdefghijklmnopqrstuvwxyz",
+                  "AT+CGDCONT=1,\"IP\",\"abcdefghijklmnopqrst\""},
+        ChangeRow{"NameAsItStands", 0, 0, " a\"b, ", "AT+CGDCONT=1,\"IP\",\" a\"b, \""},
+        ChangeRow{"NoSecondCommand", 0, 0, "a\rATD112;", "AT+CGDCONT=1,\"IP\",\"a\""}),
+    RowName());
+
+struct EmptyRow {
+  std::string name;
+  int number;
+  int type;
+  std::string text;
+};
+
+class EmptyContextField : public ContextsChange, public ::testing::WithParamInterface<EmptyRow> {};
+
+TEST_P(EmptyContextField, IsSaidAndTheContextsAreReadAnew) {
+  fillIn(GetParam().number, GetParam().type, GetParam().text);
+  leaveInTranscript("old");
+  press(form().Command1);
+  expectBox("Please Enter Proper Data", "GSM");
+  EXPECT_EQ(sent(), Texts{"AT+CGDCONT?\r"});
+  EXPECT_EQ(grid(), Texts{"1|IP|internet"});
+  EXPECT_EQ(line(), "Current Status");
+  EXPECT_EQ(form().Text1.Text.peek(), GetParam().text);
+  EXPECT_EQ(form().Combo1.Text.peek(), "");
+  EXPECT_EQ(form().Combo2.Text.peek(), "");
+  EXPECT_EQ(transcript(), "");
+  expectAtRest();
+}
+
+INSTANTIATE_TEST_SUITE_P(Is, EmptyContextField,
+                         ::testing::Values(EmptyRow{"Number", -1, 0, "internet"},
+                                           EmptyRow{"Type", 0, -1, "internet"},
+                                           EmptyRow{"Name", 0, 0, ""}, EmptyRow{"All", -1, -1, ""}),
+                         RowName());
+
+TEST_F(ContextsChange, ReadsAnewOnlyWhenTheMessageIsAnswered) {
+  machine().boxes.setAnswer(HeadlessBoxes::Answer::hold);
+  press(form().Command1);
+  EXPECT_EQ(sent(), Texts{});
+  EXPECT_EQ(grid(), Texts{"1|IP|internet"});
+  inPanel([this] { machine().boxes.answerTop(); });
+  settle();
+  EXPECT_EQ(sent(), Texts{"AT+CGDCONT?\r"});
+}
+
+struct OutcomeRow {
+  std::string name;
+  std::string answer;
+  Texts words;       // that stood on the status line, one after another
+  std::string left;  // in the box of the name
+};
+
+class ContextOutcome : public ContextsChange, public ::testing::WithParamInterface<OutcomeRow> {};
+
+// The reading that follows empties the status line first, so the words are there for no time.
+TEST_P(ContextOutcome, IsTakenOffByTheReadingThatFollows) {
+  inPanel([this] { form1().MSComm1.SThreshold = 0; });
+  fillIn(0, 0, "name");
+  leaveInTranscript("\r\nOK\r\nERROR\r\n");
+  Texts words;
+  const PropertyWatch watch(form().Label1, [&](PropertyId) { words.push_back(line()); });
+  click(form().Command1);
+  if (!GetParam().answer.empty()) {
+    inPanel([this] { form1().Text1.append(GetParam().answer); }, 0.5);
+  }
+  run(0.99);
+  EXPECT_EQ(sent().size(), 1U);
+  EXPECT_EQ(form().Text1.Text.peek(), "name");
+  run(0.02);
+  EXPECT_EQ(sent(), Texts{"AT+CGDCONT?\r"});
+  EXPECT_EQ(words, GetParam().words);
+  EXPECT_EQ(form().Text1.Text.peek(), GetParam().left);
+  EXPECT_EQ(transcript(), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Is, ContextOutcome,
+    ::testing::Values(
+        OutcomeRow{"Ok", kOk, {"", "Changes SuccessFul-GPRS", ""}, ""},
+        OutcomeRow{"Error", kError, {"", "Changes UnsuccessFul", ""}, "name"},
+        OutcomeRow{"Both", "\r\nERROR\r\n\r\nOK\r\n", {"", "Changes SuccessFul-GPRS", ""}, ""},
+        OutcomeRow{"Neither", "\r\n+CGDCONT: 1\r\n", {""}, "name"},
+        OutcomeRow{"Silence", "", {""}, "name"}),
+    RowName());
+
+TEST_F(ContextsChange, WithoutAPortEndsBeforeItReads) {
+  fillIn(0, 0, "name");
+  closePort();
+  press(form().Command1);
+  EXPECT_EQ(line(), "");
+  EXPECT_EQ(grid(), Texts{"1|IP|internet"});
+  EXPECT_EQ(form().Combo1.Text.peek(), "1");
+  expectAtRest();
+}
+
+TEST_F(ContextsChange, MidnightEndsItBeforeItReads) {
+  startWithOpenPort({2026, 3, 1, 23, 59, 0});
+  load(information(kInternet));
+  fillIn(0, 0, "name");
+  run(59.5 - now());
+  click(form().Command1);
+  run(1);
+  EXPECT_EQ(waiting(), 0);
+  EXPECT_EQ(sent(), Texts{"AT+CGDCONT=1,\"IP\",\"name\"\r"});
+  EXPECT_EQ(grid(), Texts{"1|IP|internet"});
+  expectAtRest();
+}
+
+TEST_F(ContextsChange, ARefreshInTheMiddleIsReadFirst) {
+  fillIn(0, 0, "name");
+  reply("AT+CGDCONT=1,\"IP\",\"name\"", kOk);
+  click(form().Command1);
+  run(0.02);
+  click(form().Command2);
+  settle();
+  EXPECT_EQ(sent(), (Texts{"AT+CGDCONT=1,\"IP\",\"name\"\r", "AT+CGDCONT?\r", "AT+CGDCONT?\r"}));
+  // The refresh took the outcome, so the name stays.
+  EXPECT_EQ(form().Text1.Text.peek(), "name");
+  EXPECT_EQ(line(), "Current Status");
+  expectAtRest();
+}
+
+// The window and its menu.
+
+TEST_F(ContextsChange, ClosingItSendsNothingAndBringsTheMenuBack) {
+  inPanel([this] {
+    panel().form16.Show();
+    panel().form16.Hide();
+    form1().Hide();
+  });
+  run(0);
+  bool menuWasUp = false;
+  const PropertyWatch watch(form(), [&](PropertyId property) {
+    if (property == PropertyId::Visible) menuWasUp = panel().form16.Visible.peek();
+  });
+  closeWindow();
+  EXPECT_TRUE(menuWasUp);
+  EXPECT_FALSE(form().isLoaded());
+  EXPECT_TRUE(panel().form16.Visible.peek());
+  EXPECT_FALSE(form1().Visible.peek());
+  EXPECT_EQ(sent(), Texts{});
+  expectAtRest();
+}
+
+TEST_F(ContextsChange, ClosingItEmptiesTheGridBeforeItGoes) {
+  Texts left = {"not looked"};
+  const PropertyWatch watch(form(), [&](PropertyId property) {
+    if (property == PropertyId::Visible) left = grid();
+  });
+  closeWindow();
+  EXPECT_EQ(left, Texts{});
+}
+
+TEST_F(ContextsChange, OpenedAgainReadsAgain) {
+  closeWindow();
+  inPanel([this] { window().Show(); });
+  settle();
+  EXPECT_EQ(sent(), Texts{"AT+CGDCONT?\r"});
+  EXPECT_EQ(grid(), Texts{"1|IP|internet"});
+}
+
+TEST_F(ContextsChange, TheTitleThatTheMenuGivesStandsUntilTheWindowIsLoadedAnew) {
+  EXPECT_EQ(form().Caption.peek(), "GSM-GPRS SETTINGS");
+  openBy(panel().form16.Command3);
+  EXPECT_EQ(form().Caption.peek(), "GSM-GPRS Configuration");
+  press(form().Command2);
+  EXPECT_EQ(form().Caption.peek(), "GSM-GPRS Configuration");
+  closeWindow();
+  inPanel([this] { window().Show(); });
+  run(0);
+  EXPECT_EQ(form().Caption.peek(), "GSM-GPRS SETTINGS");
+}
+
+TEST_F(ContextsChange, MinimisingAndRestoringItTakesTheStatusWindowAlong) {
+  EXPECT_EQ(minimisedLike(WindowState::minimised), WindowState::minimised);
+  EXPECT_EQ(minimisedLike(WindowState::maximised), WindowState::minimised);
+  EXPECT_EQ(minimisedLike(WindowState::normal), WindowState::normal);
+}
+
+}  // namespace
+}  // namespace gsm
