@@ -98,7 +98,7 @@ void Form18::changeMode() try {
   modem().clear();
   if (mode == kConfigure) {
     if (Text1.Text.empty()) {
-      platform().boxes.show("Enter Valid Config Number", "");
+      platform().boxes.show("Enter Valid Config Number");
       closeConfiguration();
       return;
     }

@@ -73,13 +73,14 @@ void Form19::Form_Load() try {
   for (const ContextRow& row : kRows) Combo1.AddItem(std::string(row.number));
   for (const std::string_view type : {kIp, kPpp}) Combo2.AddItem(std::string(type));
   modem().exchange("AT+CGDCONT?");
-  // A reference to a window that was closed meanwhile loads it, and that reads a reply of its own.
   const std::string reply = modem().text();
   if (position("+CGDCONT:", reply) != 0) {
     for (const ContextRow& row : kRows) {
       const Position place = position("+CGDCONT: " + std::string(row.number), reply);
       if (place == 0) continue;
-      const Context context = contextIn(lineOf(row, place, reply), row);
+      // The line is cut out of the transcript as it is by then: a reference to a window that was
+      // closed meanwhile loads it, and its own reading leaves nothing for the contexts to come.
+      const Context context = contextIn(lineOf(row, place, modem().text()), row);
       for (const auto box : {row.numberBox, row.typeBox, row.nameBox}) (this->*box).Visible = true;
       (this->*row.numberBox).Text = context.number;
       (this->*row.typeBox).Text = context.type;

@@ -270,6 +270,18 @@ TEST_F(ContextsRead, ClosingTheWindowInARefreshLoadsItAnewWithWhatWasTold) {
   expectAtRest();
 }
 
+// Its own reading clears what the first one has still to cut its second line from.
+TEST_F(ContextsRead, ClosingTheWindowInARefreshEndsTheFirstReadingAtTheSecondContext) {
+  load(lines({kInternet, "+CGDCONT: 2,\"IP\",\"b\",,0,0"}));
+  click(form().Command2);
+  run(0.5);
+  reply("AT+CGDCONT?", lines({"+CGDCONT: 1,\"PPP\",\"own\",,0,0"}));
+  closeWindow();
+  settle();
+  EXPECT_EQ(grid(), (Texts{"1|IP|internet"}));
+  expectAtRest();
+}
+
 TEST_F(ContextsRead, MidnightEndsItWhereItIs) {
   startWithOpenPort({2026, 3, 1, 23, 59, 0});
   reply("AT+CGDCONT?", information(kInternet));

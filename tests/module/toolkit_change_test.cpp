@@ -75,7 +75,7 @@ TEST_F(ToolkitChange, ConfigureWithoutATextSaysSoAndHidesTheBox) {
   pick(form().Combo1, configure);
   leaveInTranscript("old");
   press(form().Command1);
-  expectBox("Enter Valid Config Number", "");
+  expectBox("Enter Valid Config Number", MessageBoxes::kDefaultTitle);
   EXPECT_EQ(sent(), Texts{});
   EXPECT_FALSE(asksForConfiguration());
   EXPECT_EQ(status(), (Texts{"", "(TIMEOUT: 3)", "(Automatic Response  Activated)"}));
@@ -83,7 +83,7 @@ TEST_F(ToolkitChange, ConfigureWithoutATextSaysSoAndHidesTheBox) {
   EXPECT_EQ(mode(), "Configure");
   // The box comes back when the mode is chosen once more.
   press(form().Command1);
-  expectBox("Enter Valid Config Number", "");
+  expectBox("Enter Valid Config Number", MessageBoxes::kDefaultTitle);
   pick(form().Combo1, configure);
   EXPECT_TRUE(asksForConfiguration());
 }
@@ -104,7 +104,7 @@ TEST_F(ToolkitChange, AConfigurationThatWasReadCantBeSentWithoutChoosingIt) {
   press(form().Command2);
   sent();
   press(form().Command1);
-  expectBox("Enter Valid Config Number", "");
+  expectBox("Enter Valid Config Number", MessageBoxes::kDefaultTitle);
   EXPECT_EQ(sent(), Texts{});
 }
 
