@@ -92,7 +92,7 @@ INSTANTIATE_TEST_SUITE_P(
                 {"+CGDCONT: 1,\"IP\",\"myIPnet\",,0,0"},
                 {"1|IP|myIPnet"}},
         GridRow{
-            "TheOtherTypesLettersInAName", {"+CGDCONT: 1,\"IP\",\"aPPPb\",,0,0"}, {"1|IP|aPPPb"}},
+            "TheOtherTypesLettersInAName", {"+CGDCONT: 1,\"IP\",\"PPPnet\",,0,0"}, {"1|IP|PPPnet"}},
         GridRow{"NeitherType", {"+CGDCONT: 1,\"X25\",\"internet\",,0,0"}, {"||"}},
         GridRow{"SmallLetters", {"+CGDCONT: 3,\"ip\",\"internet\",,0,0"}, {"||"}},
         GridRow{"NumberAboveFour", {"+CGDCONT: 5,\"IP\",\"internet\",,0,0"}, {}},
@@ -165,6 +165,9 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenRow{"NoNameInTheSecond",
                   lines({kInternet, "+CGDCONT: 2,\"PPP\",,,0,0"}),
                   {"1|IP|internet"}},
+        BrokenRow{"TheOtherTypesLettersAtANamesEnd",
+                  information("+CGDCONT: 1,\"IP\",\"aPPPb\",,0,0"),
+                  {}},
         BrokenRow{
             "TheTypesLettersAtANamesEnd", information("+CGDCONT: 1,\"PPP\",\"voIP\",,0,0"), {}}),
     RowName());
