@@ -34,8 +34,9 @@ Options readOptions(const QStringList& arguments) {
   parser.addOptions(
       {{"folder", "The folder of the program's files.", "DIR"},
        {"shots", "Where to put the pictures.", "DIR"},
-       {"route", "Where to go: panel; or, with a SIM that wants its code, pin or services.", "NAME",
-        "panel"},
+       {"route",
+        "Where to go: panel or settings; or, with a SIM that wants its code, pin or services.",
+        "NAME", "panel"},
        {"console", "The pipe to the simulated modem's console; without it nobody calls.", "PIPE"},
        {"speed", "How much faster than real the clock runs.", "FACTOR", "1"}});
   parser.process(arguments);

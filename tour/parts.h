@@ -16,6 +16,9 @@ Route messages(Panel& panel, const QString& console);
 /// Registers a forwarding, and turns to barring, waiting and user group.
 Route services(Panel& panel);
 
+/// Saves the modem's line settings, of which it refuses some the first time.
+Route lineSettings(Panel& panel);
+
 /// Looks at the three locks, and turns the SIM's PIN, which is on, off and on again.
 Route locks(Panel& panel);
 

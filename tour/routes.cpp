@@ -165,6 +165,7 @@ std::optional<Route> routeOf(const QString& name, Panel& panel, const QString& c
     return joined({simCode(panel), phoneBook(panel), callsLeft(panel), messages(panel, console),
                    services(panel), locks(panel)});
   }
+  if (name == "settings") return joined({startUp(panel), lineSettings(panel)});
   return std::nullopt;
 }
 
