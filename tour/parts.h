@@ -29,6 +29,8 @@ Route toolkit(Panel& panel);
 
 /// Defines a packet context, one of `features`. Wants the third one free.
 Route contexts(Panel& panel);
+/// Saves the modem's line settings, of which it refuses some the first time.
+Route lineSettings(Panel& panel);
 
 /// Looks at the three locks, and turns the SIM's PIN, which is on, off and on again.
 Route locks(Panel& panel);

@@ -169,6 +169,7 @@ std::optional<Route> routeOf(const QString& name, Panel& panel, const QString& c
     return joined({startUp(panel), data(panel),
                    features(panel, {makersFeatures(panel), toolkit(panel), contexts(panel)})});
   }
+  if (name == "settings") return joined({startUp(panel), lineSettings(panel)});
   return std::nullopt;
 }
 
