@@ -34,6 +34,8 @@ void userClicks(Control& control) {
     option->userClick();
   } else if (auto* tabs = dynamic_cast<TabStrip*>(&control)) {
     tabs->userTab(tabs->Value.peek());
+  } else if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
+    combo->userSelect(0);
   } else {
     ADD_FAILURE() << control.fullName() << " is nothing that a user clicks";
   }

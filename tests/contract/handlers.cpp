@@ -2,12 +2,15 @@
 
 #include "modem/form10.h"
 #include "module/form17.h"
+#include "module/form18.h"
+#include "module/form19.h"
 #include "panel/form1.h"
 #include "phonebook/form3.h"
 #include "phonebook/form4.h"
 #include "security/form9.h"
 #include "services/form12.h"
 #include "settings/form15.h"
+#include "settings/form14.h"
 #include "sms/form8.h"
 
 namespace gsm {
@@ -69,6 +72,33 @@ void chooseUserGroup(Panel& panel) {
   Form12& window = panel.form12;
   window.Frame12.Visible = true;
   for (ComboBox* combo : {&window.Combo1, &window.Combo2, &window.Combo3}) combo->Text = "1";
+}
+
+// The lists of the other pages are filled when their page is read.
+void chooseFrom(ComboBox& combo, Frame& page) {
+  page.Visible = true;
+  if (combo.ListCount() == 0) combo.AddItem("24");
+  combo.ListIndex = 0;
+}
+void chooseBearer(Panel& panel) {
+  Form14& window = panel.form14;
+  for (ComboBox* combo : {&window.Combo1, &window.Combo2}) chooseFrom(*combo, window.Frame1);
+}
+void chooseCompression(Panel& panel) { chooseFrom(panel.form14.Combo3, panel.form14.Frame2); }
+void chooseCorrection(Panel& panel) { chooseFrom(panel.form14.Combo4, panel.form14.Frame2); }
+void chooseFaxClass(Panel& panel) { chooseFrom(panel.form14.Combo5, panel.form14.Frame3); }
+void chooseToTransmit(Panel& panel) { chooseFrom(panel.form14.Combo6, panel.form14.Frame3); }
+void chooseToReceive(Panel& panel) { chooseFrom(panel.form14.Combo7, panel.form14.Frame3); }
+
+void chooseToolkit(Panel& panel) { panel.form18.Combo1.ListIndex = 1; }
+void configureToolkit(Panel& panel) {
+  panel.form18.Combo1.ListIndex = 2;
+  panel.form18.Text1.Text = "160060C01F";
+}
+void fillContext(Panel& panel) {
+  panel.form19.Combo1.ListIndex = 0;
+  panel.form19.Combo2.ListIndex = 0;
+  panel.form19.Text1.Text = "internet";
 }
 
 void showSimPage(Panel& panel) { panel.form9.Frame3.Visible = true; }
@@ -164,6 +194,24 @@ std::vector<HandlerRow> makeHandlers() {
       {"ChangeWaiting", "Form12", "Command6", Trap::silent, true, {3}, chooseWaiting},
       {"ChangeUserGroup", "Form12", "Command7", Trap::silent, true, {1}, chooseUserGroup},
       {"SignalBesideServices", "Form12", "Command8", Trap::silent, true, {1}},
+      {"PageOfTheBearer", "Form14", "Command1", Trap::silent, true, {1}},
+      {"PageOfCompression", "Form14", "Command2", Trap::silent, true, {1, 1}},
+      {"PageOfFax", "Form14", "Command3", Trap::silent, true, {1}},
+      {"SignalBesideData", "Form14", "Label9", Trap::silent, true, {1}},
+      {"ChangeBearer", "Form14", "Command6", Trap::silent, true, {1}, chooseBearer},
+      {"ChangeCompression", "Form14", "Command7", Trap::silent, true, {1}, chooseCompression},
+      {"ChangeCorrection", "Form14", "Command8", Trap::silent, true, {1}, chooseCorrection},
+      {"ChangeFaxClass", "Form14", "Command4", Trap::silent, true, {1}, chooseFaxClass},
+      {"ChangeTransmitSpeed", "Form14", "Command5", Trap::silent, true, {1}, chooseToTransmit},
+      {"ChangeReceiveSpeed", "Form14", "Command9", Trap::silent, true, {1}, chooseToReceive},
+      {"OpenToolkit", "Form16", "Command2", Trap::silent, false, {1}},
+      {"ChooseToolkitMode", "Form18", "Combo1", Trap::silent, false, {}},
+      {"ChangeToolkitMode", "Form18", "Command1", Trap::silent, true, {1}, chooseToolkit},
+      {"ConfigureToolkit", "Form18", "Command1", Trap::silent, true, {1}, configureToolkit},
+      {"RefreshToolkit", "Form18", "Command2", Trap::silent, true, {1}},
+      {"OpenContexts", "Form16", "Command3", Trap::silent, false, {1}},
+      {"DefineContext", "Form19", "Command1", Trap::silent, true, {1, 1}, fillContext},
+      {"RefreshContexts", "Form19", "Command2", Trap::silent, true, {1}},
       {"PageOfThePhoneLock", "Form9", "TabStrip1", Trap::silent, false, {}},
       {"RefreshLocks", "Form9", "Command10", Trap::silent, true, {1}},
       {"SignalBesideLocks", "Form9", "Command11", Trap::silent, true, {1}},
