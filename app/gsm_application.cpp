@@ -7,6 +7,7 @@
 
 #include "app/windows.h"
 #include "platform/code_page.h"
+#include "platform/posix/core_files.h"
 #include "platform/posix/program_folder.h"
 #include "platform/qt/desktop.h"
 #include "platform/runtime_failure.h"
@@ -59,6 +60,7 @@ void layPhoneBook(const std::filesystem::path& folder) {
 
 // The panel on the desktop. Qt takes its own options off the command line.
 int main(int count, char** arguments) {
+  gsm::leaveNoCoreFile();
   const QApplication application(count, arguments);
   const gsm::ProgramFolder folder =
       gsm::chooseProgramFolder(gsm::placesHere(givenFolder(count, arguments)));

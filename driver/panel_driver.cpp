@@ -5,8 +5,10 @@
 #include <string>
 
 #include "driver/session.h"
+#include "platform/posix/core_files.h"
 
 int main() {
+  gsm::leaveNoCoreFile();
   std::ios::sync_with_stdio(false);
   gsm::driver::Session session;
   for (std::string line; std::getline(std::cin, line);) {

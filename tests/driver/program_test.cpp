@@ -79,6 +79,20 @@ TEST_F(PanelDriverProgram, AnEmptyLineIsAnsweredToo) {
   EXPECT_EQ(status_, 0);
 }
 
+// It is told PINs and passwords.
+TEST_F(PanelDriverProgram, CantLeaveACoreFile) {
+  const std::string program = PANEL_DRIVER;
+  const std::string look = "grep 'core file' /proc/$!/limits";
+  folder_.write("look", "mkfifo in out; " + program + " <in >out & exec 3>in 4<out\n" +
+                            "echo nonsense >&3; read -r answer <&4; " + look + " >limit\n");
+  const std::string folder = folder_.path().string();
+  EXPECT_EQ(std::system(("cd " + folder + " && ulimit -S -c $(ulimit -H -c) && sh look").c_str()),
+            0);
+  const std::string limit = folder_.read("limit").value_or("");
+  EXPECT_TRUE(limit.find(" 1 ") != std::string::npos || limit.find(" 0 ") != std::string::npos)
+      << limit;
+}
+
 TEST_F(PanelDriverProgram, AFloodOfLineChangesLeavesAProgramThatRuns) {
   // A line that flickers, or noise that the port reports as framing errors: each is an event, and
   // each event waits two seconds.
