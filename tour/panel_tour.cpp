@@ -36,7 +36,6 @@ Options readOptions(const QStringList& arguments) {
        {"shots", "Where to put the pictures.", "DIR"},
        {"route",
         "Where to go: panel or features; or, with a SIM that wants its code, pin or services.",
-        "Where to go: panel or settings; or, with a SIM that wants its code, pin or services.",
         "NAME", "panel"},
        {"console", "The pipe to the simulated modem's console; without it nobody calls.", "PIPE"},
        {"speed", "How much faster than real the clock runs.", "FACTOR", "1"}});

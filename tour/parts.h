@@ -29,6 +29,7 @@ Route toolkit(Panel& panel);
 
 /// Defines a packet context, one of `features`. Wants the third one free.
 Route contexts(Panel& panel);
+
 /// Saves the modem's line settings, of which it refuses some the first time.
 Route lineSettings(Panel& panel);
 

@@ -166,10 +166,9 @@ std::optional<Route> routeOf(const QString& name, Panel& panel, const QString& c
                    services(panel), locks(panel)});
   }
   if (name == "features") {
-    return joined({startUp(panel), data(panel),
+    return joined({startUp(panel), lineSettings(panel), data(panel),
                    features(panel, {makersFeatures(panel), toolkit(panel), contexts(panel)})});
   }
-  if (name == "settings") return joined({startUp(panel), lineSettings(panel)});
   return std::nullopt;
 }
 

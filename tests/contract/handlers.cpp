@@ -9,8 +9,8 @@
 #include "phonebook/form4.h"
 #include "security/form9.h"
 #include "services/form12.h"
-#include "settings/form15.h"
 #include "settings/form14.h"
+#include "settings/form15.h"
 #include "sms/form8.h"
 
 namespace gsm {
@@ -194,24 +194,6 @@ std::vector<HandlerRow> makeHandlers() {
       {"ChangeWaiting", "Form12", "Command6", Trap::silent, true, {3}, chooseWaiting},
       {"ChangeUserGroup", "Form12", "Command7", Trap::silent, true, {1}, chooseUserGroup},
       {"SignalBesideServices", "Form12", "Command8", Trap::silent, true, {1}},
-      {"PageOfTheBearer", "Form14", "Command1", Trap::silent, true, {1}},
-      {"PageOfCompression", "Form14", "Command2", Trap::silent, true, {1, 1}},
-      {"PageOfFax", "Form14", "Command3", Trap::silent, true, {1}},
-      {"SignalBesideData", "Form14", "Label9", Trap::silent, true, {1}},
-      {"ChangeBearer", "Form14", "Command6", Trap::silent, true, {1}, chooseBearer},
-      {"ChangeCompression", "Form14", "Command7", Trap::silent, true, {1}, chooseCompression},
-      {"ChangeCorrection", "Form14", "Command8", Trap::silent, true, {1}, chooseCorrection},
-      {"ChangeFaxClass", "Form14", "Command4", Trap::silent, true, {1}, chooseFaxClass},
-      {"ChangeTransmitSpeed", "Form14", "Command5", Trap::silent, true, {1}, chooseToTransmit},
-      {"ChangeReceiveSpeed", "Form14", "Command9", Trap::silent, true, {1}, chooseToReceive},
-      {"OpenToolkit", "Form16", "Command2", Trap::silent, false, {1}},
-      {"ChooseToolkitMode", "Form18", "Combo1", Trap::silent, false, {}},
-      {"ChangeToolkitMode", "Form18", "Command1", Trap::silent, true, {1}, chooseToolkit},
-      {"ConfigureToolkit", "Form18", "Command1", Trap::silent, true, {1}, configureToolkit},
-      {"RefreshToolkit", "Form18", "Command2", Trap::silent, true, {1}},
-      {"OpenContexts", "Form16", "Command3", Trap::silent, false, {1}},
-      {"DefineContext", "Form19", "Command1", Trap::silent, true, {1, 1}, fillContext},
-      {"RefreshContexts", "Form19", "Command2", Trap::silent, true, {1}},
       {"PageOfThePhoneLock", "Form9", "TabStrip1", Trap::silent, false, {}},
       {"RefreshLocks", "Form9", "Command10", Trap::silent, true, {1}},
       {"SignalBesideLocks", "Form9", "Command11", Trap::silent, true, {1}},
@@ -228,6 +210,18 @@ std::vector<HandlerRow> makeHandlers() {
       {"ChangePhonePassword", "Form9", "Command3", Trap::silent, true, {1}, enterPhonePasswords},
       {"ChangeSimPin", "Form9", "Command6", Trap::silent, true, {1}, showSimPage},
       {"ChangeNetworkPassword", "Form9", "Command9", Trap::silent, true, {1}, showNetworkPage},
+      {"PageOfTheBearer", "Form14", "Command1", Trap::silent, true, {1}},
+      {"PageOfCompression", "Form14", "Command2", Trap::silent, true, {1, 1}},
+      {"PageOfFax", "Form14", "Command3", Trap::silent, true, {1}},
+      {"SignalBesideData", "Form14", "Label9", Trap::silent, true, {1}},
+      {"ChangeBearer", "Form14", "Command6", Trap::silent, true, {1}, chooseBearer},
+      {"ChangeCompression", "Form14", "Command7", Trap::silent, true, {1}, chooseCompression},
+      {"ChangeCorrection", "Form14", "Command8", Trap::silent, true, {1}, chooseCorrection},
+      {"ChangeFaxClass", "Form14", "Command4", Trap::silent, true, {1}, chooseFaxClass},
+      {"ChangeTransmitSpeed", "Form14", "Command5", Trap::silent, true, {1}, chooseToTransmit},
+      {"ChangeReceiveSpeed", "Form14", "Command9", Trap::silent, true, {1}, chooseToReceive},
+      {"SaveLineSettings", "Form15", "Command1", Trap::silent, true, kLineSettings,
+       fillLineSettings},
       {"OpenMakersFeatures", "Form16", "Command1", Trap::silent, false, {1}},
       {"PageOfIndications", "Form17", "Command1", Trap::silent, true, {1}},
       {"PageOfVoiceMail", "Form17", "Command2", Trap::silent, false, {}},
@@ -247,8 +241,14 @@ std::vector<HandlerRow> makeHandlers() {
        .pauses = {1, 3},
        .prepare = showPowerPage,
        .endsByOk = true},
-      {"SaveLineSettings", "Form15", "Command1", Trap::silent, true, kLineSettings,
-       fillLineSettings},
+      {"OpenToolkit", "Form16", "Command2", Trap::silent, false, {1}},
+      {"ChooseToolkitMode", "Form18", "Combo1", Trap::silent, false, {}},
+      {"ChangeToolkitMode", "Form18", "Command1", Trap::silent, true, {1}, chooseToolkit},
+      {"ConfigureToolkit", "Form18", "Command1", Trap::silent, true, {1}, configureToolkit},
+      {"RefreshToolkit", "Form18", "Command2", Trap::silent, true, {1}},
+      {"OpenContexts", "Form16", "Command3", Trap::silent, false, {1}},
+      {"DefineContext", "Form19", "Command1", Trap::silent, true, {1, 1}, fillContext},
+      {"RefreshContexts", "Form19", "Command2", Trap::silent, true, {1}},
   };
   return rows;
 }
