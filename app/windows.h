@@ -1,25 +1,8 @@
 #pragma once
 
-#include <string_view>
+#include <memory>
 
-#include "audio/form6.h"
-#include "modem/form10.h"
-#include "modem/form11.h"
-#include "modem/form2.h"
-#include "modem/form20.h"
-#include "module/form16.h"
-#include "panel/form1.h"
-#include "panel/form7.h"
 #include "panel/panel.h"
-#include "phonebook/form3.h"
-#include "phonebook/form4.h"
-#include "phonebook/form5.h"
-#include "security/form9.h"
-#include "services/form12.h"
-#include "settings/form14.h"
-#include "settings/form15.h"
-#include "sms/form8.h"
-#include "startup/frm_settings.h"
 
 namespace gsm {
 
@@ -28,27 +11,14 @@ class Windows {
  public:
   /// `machine` must outlive the windows.
   explicit Windows(Platform& machine);
-
-  Panel panel;
+  ~Windows();
 
  private:
-  Form1 form1_{panel};
-  Form2 form2_{panel};
-  Form3 form3_{panel};
-  Form4 form4_{panel};
-  Form5 form5_{panel};
-  Form6 form6_{panel};
-  Form7 form7_{panel};
-  Form8 form8_{panel};
-  Form9 form9_{panel};
-  Form10 form10_{panel};
-  Form11 form11_{panel};
-  Form12 form12_{panel};
-  Form14 form14_{panel};
-  Form15 form15_{panel};
-  Form16 form16_{panel};
-  Form20 form20_{panel};
-  frmSettings settings_{panel};
+  struct All;
+  std::unique_ptr<All> all_;
+
+ public:
+  Panel& panel;
 };
 
 /// Ends the program as "&Exit" does, when nobody at the screen has asked for it: a failure on the
