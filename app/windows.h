@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string_view>
+#include <memory>
 
 #include "audio/form6.h"
 #include "modem/form10.h"
@@ -14,15 +14,6 @@
 #include "panel/form1.h"
 #include "panel/form7.h"
 #include "panel/panel.h"
-#include "phonebook/form3.h"
-#include "phonebook/form4.h"
-#include "phonebook/form5.h"
-#include "security/form9.h"
-#include "services/form12.h"
-#include "settings/form14.h"
-#include "settings/form15.h"
-#include "sms/form8.h"
-#include "startup/frm_settings.h"
 
 namespace gsm {
 
@@ -31,8 +22,7 @@ class Windows {
  public:
   /// `machine` must outlive the windows.
   explicit Windows(Platform& machine);
-
-  Panel panel;
+  ~Windows();
 
  private:
   Form1 form1_{panel};
@@ -55,6 +45,11 @@ class Windows {
   Form19 form19_{panel};
   Form20 form20_{panel};
   frmSettings settings_{panel};
+  struct All;
+  std::unique_ptr<All> all_;
+
+ public:
+  Panel& panel;
 };
 
 /// Ends the program as "&Exit" does, when nobody at the screen has asked for it: a failure on the

@@ -1,5 +1,10 @@
 #pragma once
 
+#include "controls/list_controls.h"
+#include "controls/option_button.h"
+#include "controls/simple_controls.h"
+#include "controls/slider.h"
+#include "link/text.h"
 #include "panel/feature_window.h"
 
 namespace gsm {
@@ -8,6 +13,12 @@ namespace gsm {
 class Form6 : public FeatureWindow {
  public:
   explicit Form6(Panel& panel);
+
+  /// The readers of the modem's replies about the gains and the side tone; `key` is where the word
+  /// of the reply stands in the transcript.
+  void showSpeakerGain(Position key);
+  void showMicrophoneGain(Position key);
+  void showSideTone(Position key);
 
   Label Label7{*this, "Label7"};  // the status line
 

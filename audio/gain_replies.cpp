@@ -1,12 +1,11 @@
 #include "audio/form6.h"
+#include "link/conversation.h"
 #include "link/pair_reply.h"
-#include "panel/form1.h"
-#include "panel/panel.h"
 
 namespace gsm {
 namespace {
 
-// The reply to a gain query: its value is the three characters behind the key and a blank.
+// The reply to a gain query: its value is the three characters after the key and a blank.
 void showGain(Form6& window, const std::string& gain, std::string_view words, Label& value,
               Slider& slider) {
   window.Label7.Caption = std::string(words) + gain;
@@ -16,25 +15,20 @@ void showGain(Form6& window, const std::string& gain, std::string_view words, La
 
 }  // namespace
 
-void Form1::showSpeakerGain(Position key) {
-  Form6& window = panel_.form6;
-  showGain(window, Text1.slice(key + 5, 3), "Default Values-Speaker ", window.Label5,
-           window.Slider1);
+void Form6::showSpeakerGain(Position key) {
+  showGain(*this, modem().slice(key + 5, 3), "Default Values-Speaker ", Label5, Slider1);
 }
 
-void Form1::showMicrophoneGain(Position key) {
-  Form6& window = panel_.form6;
-  showGain(window, Text1.slice(key + 5, 3), "Default Values-MicroPhone ", window.Label6,
-           window.Slider2);
+void Form6::showMicrophoneGain(Position key) {
+  showGain(*this, modem().slice(key + 5, 3), "Default Values-MicroPhone ", Label6, Slider2);
 }
 
-void Form1::showSideTone(Position key) {
-  const PairReply reply = pairReply(Text1, key + 6);
+void Form6::showSideTone(Position key) {
+  const PairReply reply = pairReply(modem(), key + 6);
   const double state = number(reply.first);
-  Form6& window = panel_.form6;
-  if (state == 0) window.Option1.Value = true;
-  if (state == 1) window.Option2.Value = true;
-  window.Slider10.Value = wholeNumber(reply.second);
+  if (state == 0) Option1.Value = true;
+  if (state == 1) Option2.Value = true;
+  Slider10.Value = wholeNumber(reply.second);
 }
 
 }  // namespace gsm

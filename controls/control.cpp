@@ -1,6 +1,8 @@
 #include "controls/control.h"
 
 #include "controls/window.h"
+#include "platform/handler_stack.h"
+#include "platform/platform.h"
 
 namespace gsm {
 

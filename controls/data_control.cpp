@@ -1,6 +1,8 @@
 #include "controls/data_control.h"
 
 #include "controls/window.h"
+#include "platform/files.h"
+#include "platform/platform.h"
 
 namespace gsm {
 

@@ -2,6 +2,9 @@
 
 #include <utility>
 
+#include "platform/event_loop.h"
+#include "platform/handler_stack.h"
+#include "platform/platform.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

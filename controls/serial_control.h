@@ -6,10 +6,12 @@
 #include <string_view>
 
 #include "controls/object.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "platform/serial_device.h"
 
 namespace gsm {
+
+struct Platform;
 
 /// The serial communications control: one port, opened and closed at will, plain bytes out and in,
 /// and one event for all that happens on the line.

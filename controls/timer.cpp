@@ -1,6 +1,7 @@
 #include "controls/timer.h"
 
 #include "controls/window.h"
+#include "platform/platform.h"
 #include "platform/scoped_value.h"
 
 namespace gsm {

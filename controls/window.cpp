@@ -1,5 +1,9 @@
 #include "controls/window.h"
 
+#include "platform/handler_stack.h"
+#include "platform/message_boxes.h"
+#include "platform/platform.h"
+
 #include <algorithm>
 
 namespace gsm {

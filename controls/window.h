@@ -6,9 +6,10 @@
 
 #include "controls/control.h"
 #include "controls/property.h"
-#include "platform/platform.h"
 
 namespace gsm {
+
+struct Platform;
 
 enum WindowState { normal = 0, minimised = 1, maximised = 2 };
 enum MousePointer { arrow = 0, hourglass = 11 };

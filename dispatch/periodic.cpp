@@ -1,6 +1,7 @@
 #include "panel/form1.h"
 #include "panel/panel.h"
 #include "phonebook/form5.h"
+#include "platform/platform.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

@@ -31,6 +31,10 @@ Action method(void (Form1::*show)(Position)) {
   return [show](Form1& form, Form6&, Position key) { (form.*show)(key); };
 }
 
+Action method(void (Form6::*show)(Position)) {
+  return [show](Form1&, Form6& audio, Position key) { (audio.*show)(key); };
+}
+
 // The outcome of a change to the audio settings, on that window's status line.
 Action outcome(std::string_view success) {
   return [success](Form1& form, Form6& audio, Position) {
@@ -70,11 +74,11 @@ const std::vector<Test>& tests() {
       {{{"AT+CPBS?", method(&Form1::SavePhoneBook)}}, "OK", Clearing::byAction},
       {{{"AT+VGR=", outcome("Changes SuccessFul-Speaker")}}, "", Clearing::whole},
       {{{"AT+VGT=", outcome("Changes SuccessFul-Microphone")}}, "", Clearing::whole},
-      {{{"VGR:", method(&Form1::showSpeakerGain)}}, "", Clearing::whole},
-      {{{"VGT:", method(&Form1::showMicrophoneGain)}}, "", Clearing::whole},
+      {{{"VGR:", method(&Form6::showSpeakerGain)}}, "", Clearing::whole},
+      {{{"VGT:", method(&Form6::showMicrophoneGain)}}, "", Clearing::whole},
       {{{"ECHO:", showEchoValues}}, "", Clearing::byAction},
       {{{"AT+ECHO=", outcome("Changes SuccessFul")}}, "", Clearing::whole},
-      {{{"SIDET:", method(&Form1::showSideTone)}}, "", Clearing::whole},
+      {{{"SIDET:", method(&Form6::showSideTone)}}, "", Clearing::whole},
       {{{"AT+SIDET=", outcome("Changes SuccessFul")}}, "", Clearing::whole},
       {{{"CSQ:", method(&Form1::showSignal)}}, "", Clearing::whole},
       {{{"CREG:", method(&Form1::showRegistration)}}, "", Clearing::whole},

@@ -4,6 +4,7 @@
 #include "controls/simple_controls.h"
 #include "link/pause.h"
 #include "link/transcript.h"
+#include "platform/event_loop.h"
 #include "platform/platform.h"
 
 namespace gsm {

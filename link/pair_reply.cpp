@@ -1,9 +1,11 @@
 #include "link/pair_reply.h"
 
+#include "link/conversation.h"
+
 namespace gsm {
 
-PairReply pairReply(const Transcript& transcript, Position start) {
-  const std::string fields = transcript.slice(start, 10);
+PairReply pairReply(const Conversation& modem, Position start) {
+  const std::string fields = modem.slice(start, 10);
   return {before(",", fields), before("\r", behind(",", fields))};
 }
 

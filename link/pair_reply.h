@@ -2,9 +2,11 @@
 
 #include <string>
 
-#include "link/transcript.h"
+#include "link/text.h"
 
 namespace gsm {
+
+class Conversation;
 
 /// A reply of two fields, as texts: "15,99" and a carriage return.
 struct PairReply {
@@ -12,8 +14,8 @@ struct PairReply {
   std::string second;
 };
 
-/// Reads the fields from position `start` of `transcript` on, which may span 10 characters.
+/// Reads the fields from position `start` of the transcript on, which may span 10 characters.
 /// `invalidArgument` when the comma or the carriage return isn't among them.
-PairReply pairReply(const Transcript& transcript, Position start);
+PairReply pairReply(const Conversation& modem, Position start);
 
 }  // namespace gsm

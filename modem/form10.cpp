@@ -2,6 +2,8 @@
 
 #include "panel/form1.h"
 #include "panel/panel.h"
+#include "platform/message_boxes.h"
+#include "platform/platform.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

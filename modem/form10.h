@@ -1,6 +1,7 @@
 #pragma once
 
-#include "controls/controls.h"
+#include "controls/simple_controls.h"
+#include "controls/text_box.h"
 #include "controls/window.h"
 
 namespace gsm {

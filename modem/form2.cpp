@@ -3,6 +3,8 @@
 #include <array>
 
 #include "panel/panel.h"
+#include "platform/files.h"
+#include "platform/platform.h"
 
 namespace gsm {
 

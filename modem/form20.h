@@ -1,6 +1,7 @@
 #pragma once
 
-#include "controls/controls.h"
+#include "controls/simple_controls.h"
+#include "controls/timer.h"
 #include "controls/window.h"
 
 namespace gsm {

@@ -3,6 +3,9 @@
 #include "modem/form2.h"
 #include "panel/form1.h"
 #include "panel/panel.h"
+#include "platform/files.h"
+#include "platform/message_boxes.h"
+#include "platform/platform.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

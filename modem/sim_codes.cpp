@@ -1,6 +1,9 @@
 #include "modem/form10.h"
 #include "panel/form1.h"
 #include "panel/panel.h"
+#include "platform/message_boxes.h"
+#include "platform/platform.h"
+#include "platform/program.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "controls/controls.h"
 #include "controls/window.h"
 
 namespace gsm {

@@ -3,8 +3,10 @@
 #include <string>
 #include <string_view>
 
-#include "controls/controls.h"
+#include "controls/list_controls.h"
 #include "controls/serial_control.h"
+#include "controls/simple_controls.h"
+#include "controls/timer.h"
 #include "controls/window.h"
 #include "link/conversation.h"
 #include "link/text.h"
@@ -150,9 +152,6 @@ class Form1 : public Window {
 
   // -- audio/: replies about the audio settings --------------------------------------------------
 
-  void showSpeakerGain(Position key);
-  void showMicrophoneGain(Position key);
-  void showSideTone(Position key);
   /// `key` is where "ECHO:" stands, as decimal text.
   void ShowEchoValues(const std::string& key);
 

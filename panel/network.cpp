@@ -50,7 +50,7 @@ void Form1::networkset() try {
 }
 
 void Form1::showSignal(Position key) {
-  const PairReply reply = pairReply(Text1, key + 5);
+  const PairReply reply = pairReply(modem, key + 5);
   const double strength = number(reply.first);
   Form7& window = panel_.form7;
   for (const SignalStep& step : kSignalSteps) {
@@ -66,7 +66,7 @@ void Form1::showSignal(Position key) {
 }
 
 void Form1::showRegistration(Position key) {
-  const double status = number(pairReply(Text1, key + 6).second);
+  const double status = number(pairReply(modem, key + 6).second);
   for (std::size_t value = 0; value < kRegistrationWords.size(); ++value) {
     if (status == static_cast<double>(value)) {
       panel_.form7.Label5.Caption = kRegistrationWords[value];

@@ -2,6 +2,8 @@
 
 #include "controls/window.h"
 #include "panel/form1.h"
+#include "platform/message_boxes.h"
+#include "platform/platform.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

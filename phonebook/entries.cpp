@@ -3,6 +3,8 @@
 #include "phonebook/book_row.h"
 #include "phonebook/form3.h"
 #include "phonebook/form4.h"
+#include "platform/message_boxes.h"
+#include "platform/platform.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

@@ -2,7 +2,11 @@
 
 #include <string>
 
+#include "controls/control_array.h"
 #include "controls/data_control.h"
+#include "controls/list_controls.h"
+#include "controls/simple_controls.h"
+#include "controls/text_box.h"
 #include "panel/feature_window.h"
 
 namespace gsm {

@@ -2,7 +2,8 @@
 
 #include <string>
 
-#include "controls/controls.h"
+#include "controls/simple_controls.h"
+#include "controls/text_box.h"
 #include "controls/window.h"
 
 namespace gsm {

@@ -1,6 +1,8 @@
 #include "panel/form1.h"
 #include "panel/panel.h"
 #include "phonebook/form3.h"
+#include "platform/files.h"
+#include "platform/platform.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

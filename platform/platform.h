@@ -2,22 +2,22 @@
 
 #include <vector>
 
-#include "platform/clock.h"
-#include "platform/database.h"
-#include "platform/event_loop.h"
-#include "platform/files.h"
-#include "platform/handler_stack.h"
-#include "platform/message_boxes.h"
-#include "platform/port_probe.h"
-#include "platform/program.h"
-#include "platform/serial_device.h"
-#include "platform/settings_store.h"
-
 namespace gsm {
 
+class Clock;
+class DatabaseEngine;
+class EventLoop;
+class Files;
+class HandlerStack;
+class MessageBoxes;
+class PortProbe;
+class Program;
+class SerialDevice;
+class SettingsStore;
 class Window;
 
-/// Everything that the windows need of the machine. All of it outlives the windows.
+/// Everything that the windows need of the machine. All of it outlives the windows. Whoever uses a
+/// part of it includes its header.
 struct Platform {
   Clock& clock;
   EventLoop& loop;

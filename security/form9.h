@@ -1,6 +1,9 @@
 #pragma once
 
+#include "controls/option_button.h"
+#include "controls/simple_controls.h"
 #include "controls/tab_strip.h"
+#include "controls/text_box.h"
 #include "panel/feature_window.h"
 
 namespace gsm {

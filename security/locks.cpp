@@ -1,6 +1,7 @@
 #include <initializer_list>
 
 #include "link/conversation.h"
+#include "platform/message_boxes.h"
 #include "platform/platform.h"
 #include "platform/runtime_failure.h"
 #include "security/form9.h"

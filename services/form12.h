@@ -3,7 +3,11 @@
 #include <string>
 #include <string_view>
 
+#include "controls/list_controls.h"
+#include "controls/option_button.h"
+#include "controls/simple_controls.h"
 #include "controls/tab_strip.h"
+#include "controls/text_box.h"
 #include "panel/feature_window.h"
 
 namespace gsm {

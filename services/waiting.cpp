@@ -3,6 +3,7 @@
 
 #include "link/conversation.h"
 #include "panel/choices.h"
+#include "platform/message_boxes.h"
 #include "platform/platform.h"
 #include "platform/runtime_failure.h"
 #include "services/form12.h"

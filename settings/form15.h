@@ -2,6 +2,9 @@
 
 #include <string>
 
+#include "controls/list_controls.h"
+#include "controls/option_button.h"
+#include "controls/simple_controls.h"
 #include "panel/feature_window.h"
 
 namespace gsm {

@@ -1,4 +1,7 @@
 #include "link/conversation.h"
+#include "platform/clock.h"
+#include "platform/message_boxes.h"
+#include "platform/platform.h"
 #include "platform/runtime_failure.h"
 #include "sms/form8.h"
 

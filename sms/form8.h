@@ -4,6 +4,10 @@
 #include <string>
 
 #include "controls/data_control.h"
+#include "controls/list_controls.h"
+#include "controls/option_button.h"
+#include "controls/simple_controls.h"
+#include "controls/text_box.h"
 #include "panel/feature_window.h"
 
 namespace gsm {

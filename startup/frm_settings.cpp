@@ -6,7 +6,11 @@
 #include "link/text.h"
 #include "panel/form1.h"
 #include "panel/panel.h"
+#include "platform/message_boxes.h"
+#include "platform/platform.h"
+#include "platform/port_probe.h"
 #include "platform/runtime_failure.h"
+#include "platform/settings_store.h"
 
 namespace gsm {
 namespace {

@@ -2,8 +2,11 @@
 
 #include <string>
 
-#include "controls/controls.h"
+#include "controls/control_array.h"
+#include "controls/list_controls.h"
+#include "controls/option_button.h"
 #include "controls/serial_control.h"
+#include "controls/simple_controls.h"
 #include "controls/window.h"
 
 namespace gsm {

@@ -1,6 +1,9 @@
 #include "modem/identity.h"
 #include "panel/form1.h"
 #include "panel/panel.h"
+#include "platform/files.h"
+#include "platform/message_boxes.h"
+#include "platform/platform.h"
 #include "platform/runtime_failure.h"
 #include "startup/frm_settings.h"
 

@@ -3,6 +3,10 @@
 #include "panel/form1.h"
 #include "panel/form7.h"
 #include "panel/panel.h"
+#include "platform/files.h"
+#include "platform/message_boxes.h"
+#include "platform/platform.h"
+#include "platform/program.h"
 #include "platform/runtime_failure.h"
 #include "platform/scoped_value.h"
 

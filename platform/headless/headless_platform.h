@@ -7,12 +7,16 @@
 #include <string>
 #include <vector>
 
+#include "platform/files.h"
+#include "platform/handler_stack.h"
 #include "platform/headless/headless_boxes.h"
 #include "platform/headless/headless_line.h"
 #include "platform/headless/headless_ports.h"
 #include "platform/headless/virtual_time.h"
 #include "platform/platform.h"
 #include "platform/recording_device.h"
+#include "platform/program.h"
+#include "platform/settings_store.h"
 #include "platform/sqlite/sqlite_engine.h"
 
 namespace gsm {

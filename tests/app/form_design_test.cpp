@@ -11,6 +11,8 @@
 #include <string>
 
 #include "app/windows.h"
+#include "controls/controls.h"
+#include "controls/window.h"
 #include "platform/qt/text_codec.h"
 #include "tests/support/desktop/desktop_fixture.h"
 #include "ui/forms.h"

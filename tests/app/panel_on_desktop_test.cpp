@@ -14,6 +14,7 @@
 #include "app/windows.h"
 #include "panel/form1.h"
 #include "panel/form7.h"
+#include "phonebook/form3.h"
 #include "phonebook/form5.h"
 #include "platform/qt/desktop.h"
 #include "platform/sqlite/phone_book_file.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "controls/controls.h"
 #include "panel/form1.h"
 #include "platform/runtime_failure.h"
 #include "tests/contract/handlers.h"

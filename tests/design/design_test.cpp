@@ -18,6 +18,7 @@
 #include "app/windows.h"
 #include "controls/controls.h"
 #include "controls/data_control.h"
+#include "controls/window.h"
 #include "platform/headless/headless_platform.h"
 #include "tests/support/temporary_folder.h"
 

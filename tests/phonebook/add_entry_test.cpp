@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "phonebook/form3.h"
 #include "phonebook/form4.h"
-#include "tests/phonebook/phone_book_test.h"
+#include "tests/support/phone_book_test.h"
 
 namespace gsm {
 namespace {

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "panel/form1.h"
+#include "phonebook/form3.h"
 #include "phonebook/form4.h"
 #include "tests/phonebook/download_test.h"
 #include "tests/phonebook/failing_database.h"

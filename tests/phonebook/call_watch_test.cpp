@@ -3,7 +3,8 @@
 #include <algorithm>
 
 #include "panel/form1.h"
-#include "tests/phonebook/phone_book_test.h"
+#include "phonebook/form3.h"
+#include "tests/support/phone_book_test.h"
 #include "tests/support/property_watch.h"
 #include "tests/support/rows.h"
 

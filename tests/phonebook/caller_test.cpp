@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "tests/phonebook/phone_book_test.h"
+#include "phonebook/form3.h"
+#include "phonebook/form5.h"
+#include "tests/support/phone_book_test.h"
 #include "tests/support/property_watch.h"
 #include "tests/support/rows.h"
 

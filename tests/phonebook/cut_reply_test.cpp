@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "panel/form1.h"
+#include "phonebook/form3.h"
 #include "tests/phonebook/download_test.h"
 
 namespace gsm {

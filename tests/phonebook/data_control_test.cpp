@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/phonebook/phone_book_test.h"
+#include "phonebook/form3.h"
+#include "tests/support/phone_book_test.h"
 
 namespace gsm {
 namespace {

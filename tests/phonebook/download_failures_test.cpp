@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "phonebook/form3.h"
 #include "tests/phonebook/download_test.h"
 #include "tests/support/rows.h"
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "phonebook/form3.h"
 #include "tests/phonebook/download_test.h"
 #include "tests/support/rows.h"
 

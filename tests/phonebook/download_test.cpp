@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "panel/form1.h"
+#include "phonebook/form3.h"
 
 namespace gsm {
 namespace {

@@ -3,7 +3,8 @@
 #include <string>
 
 #include "panel/form1.h"
-#include "tests/phonebook/phone_book_test.h"
+#include "phonebook/form3.h"
+#include "tests/support/phone_book_test.h"
 
 namespace gsm {
 

@@ -5,7 +5,9 @@
 #include <memory>
 
 #include "panel/form1.h"
+#include "phonebook/form3.h"
 #include "phonebook/form4.h"
+#include "phonebook/form5.h"
 #include "tests/phonebook/download_test.h"
 
 namespace gsm {

@@ -2,7 +2,9 @@
 
 #include "panel/form1.h"
 #include "panel/form7.h"
+#include "phonebook/form3.h"
 #include "phonebook/form4.h"
+#include "phonebook/form5.h"
 #include "tests/phonebook/download_test.h"
 #include "tests/support/property_watch.h"
 

@@ -2,7 +2,8 @@
 
 #include "panel/form1.h"
 #include "panel/form7.h"
-#include "tests/phonebook/phone_book_test.h"
+#include "phonebook/form3.h"
+#include "tests/support/phone_book_test.h"
 #include "tests/support/rows.h"
 
 namespace gsm {

@@ -2,7 +2,9 @@
 
 #include "modem/form11.h"
 #include "panel/form1.h"
+#include "phonebook/form3.h"
 #include "phonebook/form4.h"
+#include "phonebook/form5.h"
 #include "sms/form8.h"
 #include "tests/phonebook/download_test.h"
 

@@ -3,7 +3,7 @@
 #include "modem/form11.h"
 #include "panel/form1.h"
 #include "sms/form8.h"
-#include "tests/phonebook/phone_book_test.h"
+#include "tests/support/phone_book_test.h"
 #include "tests/support/property_watch.h"
 #include "tests/support/rows.h"
 

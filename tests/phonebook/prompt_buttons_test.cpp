@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "panel/form1.h"
-#include "tests/phonebook/phone_book_test.h"
+#include "phonebook/form5.h"
+#include "tests/support/phone_book_test.h"
 
 namespace gsm {
 namespace {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "phonebook/form3.h"
 #include "phonebook/form4.h"
 
 namespace gsm {

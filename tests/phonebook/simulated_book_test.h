@@ -4,7 +4,7 @@
 #include <string>
 
 #include "simulator/host/simulated_modem.h"
-#include "tests/phonebook/phone_book_test.h"
+#include "tests/support/phone_book_test.h"
 
 namespace gsm {
 

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "panel/form1.h"
+#include "phonebook/form3.h"
+#include "phonebook/form5.h"
 #include "tests/phonebook/simulated_book_test.h"
 
 namespace gsm {

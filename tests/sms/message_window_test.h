@@ -5,7 +5,7 @@
 
 #include "link/conversation.h"
 #include "sms/form8.h"
-#include "tests/phonebook/phone_book_test.h"
+#include "tests/support/phone_book_test.h"
 
 namespace gsm {
 

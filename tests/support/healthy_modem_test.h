@@ -3,7 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "modem/form20.h"
 #include "panel/form1.h"
 #include "tests/support/modem_bytes.h"
 #include "tests/support/panel_fixture.h"
@@ -32,39 +31,15 @@ class HealthyModemTest : public PanelTest {
  protected:
   /// Starts the program; nothing happens before time passes.
   void startHealthy(const std::string& simReply = unsolicited("+CPIN: READY"),
-                    const std::string& comFile = "9600,N,8,1 3\r\n") {
-    layComFile(comFile);
-    start({.now = {2026, 3, 1, 0, 0, 0}});
-    answerEverything(simReply);
-  }
+                    const std::string& comFile = "9600,N,8,1 3\r\n");
 
   /// Starts it and lets the start-up end; what was written so far is forgotten.
-  void startUnlocked() {
-    startHealthy();
-    settle();
-    sent();
-  }
+  void startUnlocked();
 
-  void answerEverything(const std::string& simReply = unsolicited("+CPIN: READY")) {
-    for (const char* command : {"AT", "AT+CMEE=0", "AT+CRC=0", "AT+CLIP=1", "AT+WIND=0",
-                                "AT+CMGF=1", "AT+SPEAKER=1", "ATE1", "AT+CCED=2", "AT&F", "AT&W"}) {
-      reply(command, kOk);
-    }
-    reply("AT+CGSN", kImeiReply);
-    reply("AT+CPIN?", simReply);
-    reply("AT+CSQ", information("+CSQ: 29,0"));
-    reply("AT+CREG?", information("+CREG: 0,1"));
-    reply("ATI0", kManufacturerReply);
-    reply("ATI3", information(kRevision));
-    reply("ATS0?", information("000"));
-    reply("AT+IPR?", information("+IPR: 9600"));
-    reply("AT+ICF?", information("+ICF: 3,4"));
-    reply("AT&V", kProfileReply);
-    reply("AT+CNMI?", information("+CNMI: 0,1,0,0,0"));
-  }
+  void answerEverything(const std::string& simReply = unsolicited("+CPIN: READY"));
 
   /// The modem hears `command` and says nothing, not even its echo.
-  void silence(const std::string& command) { world().modem.add({.write = command + "\r"}); }
+  void silence(const std::string& command);
 
   /// The user types `keys` into `box`.
   template <class Box>
@@ -74,68 +49,25 @@ class HealthyModemTest : public PanelTest {
   }
 
   /// The user closes `window` by its box, and all that follows happens.
-  void close(Window& window) {
-    inPanel([&window] { window.userClose(); });
-    settle();
-  }
+  void close(Window& window);
 
-  void closePort() {
-    inPanel([this] { form1().MSComm1.PortOpen = false; });
-    run(0);
-  }
+  void closePort();
 
-  std::vector<CommandButton*> buttons() {
-    Form1& form = form1();
-    return {&form.Command1,  &form.Command2,  &form.Command3, &form.Command4, &form.Command5,
-            &form.Command6,  &form.Command7,  &form.Command8, &form.Command9, &form.Command10,
-            &form.Command11, &form.Command12, &form.Command13};
-  }
+  std::vector<CommandButton*> buttons();
   /// The numbers of the panel's buttons that are enabled.
-  std::vector<int> enabledButtons() {
-    std::vector<int> numbers;
-    int number = 0;
-    for (const CommandButton* button : buttons()) {
-      ++number;
-      if (button->Enabled.peek()) numbers.push_back(number);
-    }
-    return numbers;
-  }
+  std::vector<int> enabledButtons();
 
-  void expectLocked() {
-    EXPECT_EQ(enabledButtons(), (std::vector<int>{7, 8, 9, 13}));
-    EXPECT_TRUE(form1().Frame5.Visible.peek());
-    EXPECT_FALSE(panel().form20.Timer1.Enabled.peek());
-  }
-  void expectWorking() {
-    EXPECT_EQ(enabledButtons(), (std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13}));
-    EXPECT_FALSE(form1().Frame5.Visible.peek());
-    EXPECT_TRUE(panel().form20.Timer1.Enabled.peek());
-  }
+  void expectLocked();
+  void expectWorking();
   /// What the no-SIM state sets on the panel, whether or not the modem told its framing.
-  void expectNoSim() {
-    EXPECT_EQ(enabledButtons(), (std::vector<int>{1, 6, 7, 8, 9, 10, 11, 12, 13}));
-    EXPECT_FALSE(form1().Frame5.Visible.peek());
-  }
+  void expectNoSim();
   /// No handler waits, no box came up, and the program goes on.
-  void expectAtRest() {
-    EXPECT_EQ(waiting(), 0);
-    EXPECT_EQ(boxes(), Texts{});
-    EXPECT_FALSE(ended());
-  }
+  void expectAtRest();
 
   /// Exactly one box has come up.
-  void expectBox(const std::string& text, const std::string& title, BoxIcon icon = BoxIcon::none) {
-    const auto shown = machine().boxes.takeShown();
-    ASSERT_EQ(shown.size(), 1U);
-    EXPECT_EQ(shown[0].text, text);
-    EXPECT_EQ(shown[0].title, title);
-    EXPECT_EQ(shown[0].icon, icon);
-  }
+  void expectBox(const std::string& text, const std::string& title, BoxIcon icon = BoxIcon::none);
   /// A run-time failure that no handler trapped has ended the program.
-  void expectEndedBy(const std::string& failure) {
-    expectBox(failure, MessageBoxes::kDefaultTitle);
-    EXPECT_TRUE(ended());
-  }
+  void expectEndedBy(const std::string& failure);
 
   std::string statusLine() { return form1().Label5.Caption.peek(); }
   std::string portState() { return form1().Label1.Caption.peek(); }

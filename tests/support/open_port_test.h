@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "panel/form1.h"
 #include "tests/support/panel_fixture.h"
 
@@ -14,21 +16,10 @@ class OpenPortTest : public PanelTest {
  protected:
   void SetUp() override { startWithOpenPort(); }
 
-  void startWithOpenPort(LocalTime clock = {2026, 3, 1, 0, 0, 0}) {
-    start({.now = clock});
-    settle();
-    inPanel([this] {
-      form1().MSComm1.CommPort = 3;
-      form1().MSComm1.PortOpen = true;
-    });
-    run(0);
-  }
+  void startWithOpenPort(LocalTime clock = {2026, 3, 1, 0, 0, 0});
 
   /// Puts `text` into the transcript, as if it had come earlier and nothing had claimed it.
-  void leaveInTranscript(const std::string& text) {
-    inPanel([this, text] { form1().Text1.append(text); });
-    run(0);
-  }
+  void leaveInTranscript(const std::string& text);
 };
 
 }  // namespace gsm

@@ -9,8 +9,9 @@
 #include <vector>
 
 #include "panel/form1.h"
+#include "phonebook/form5.h"
 #include "simulator/host/simulated_modem.h"
-#include "tests/phonebook/phone_book_test.h"
+#include "tests/support/phone_book_test.h"
 #include "tests/support/property_watch.h"
 #include "tests/support/rows.h"
 

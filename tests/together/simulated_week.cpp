@@ -5,9 +5,12 @@
 #include "modem/form10.h"
 #include "modem/form11.h"
 #include "panel/form1.h"
+#include "phonebook/form3.h"
+#include "platform/sqlite/phone_book_file.h"
 #include "security/form9.h"
 #include "services/form12.h"
 #include "simulator/phone_book_text.h"
+#include "sms/form8.h"
 
 namespace gsm {
 namespace {

@@ -10,8 +10,7 @@
 
 #include "panel/panel.h"
 #include "simulator/host/simulated_modem.h"
-#include "sms/form8.h"
-#include "tests/phonebook/phone_book_test.h"
+#include "tests/support/phone_book_test.h"
 #include "tests/support/property_watch.h"
 #include "tests/together/book_model.h"
 #include "tests/together/network_truth.h"
@@ -96,7 +95,7 @@ class SimulatedWeek : public PhoneBookTest {
   void letSomebodyWrite();
   void letSomebodyWriteMeanwhile();
   Form8& messages() { return panel().form8; }
-  std::string note() { return messages().Label4.Caption.peek(); }
+  std::string note();
 
   // The network's services; `simulated_week_services.cpp`.
   NetworkTruth truth();

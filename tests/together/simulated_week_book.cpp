@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "panel/form1.h"
+#include "phonebook/form3.h"
 #include "phonebook/form4.h"
 #include "tests/together/simulated_week.h"
 

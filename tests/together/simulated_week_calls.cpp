@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "phonebook/form3.h"
+#include "phonebook/form5.h"
 #include "tests/together/simulated_week.h"
 
 namespace gsm {

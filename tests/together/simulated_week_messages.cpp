@@ -21,6 +21,8 @@ constexpr int kEntriesOffered = 12;
 
 }  // namespace
 
+std::string SimulatedWeek::note() { return messages().Label4.Caption.peek(); }
+
 void SimulatedWeek::openMessages() {
   if (messages().Visible.peek()) return;
   showPanel();

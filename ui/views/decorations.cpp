@@ -5,6 +5,8 @@
 #include <QVariant>
 #include <algorithm>
 
+#include "platform/handler_stack.h"
+#include "platform/serial_device.h"
 #include "ui/views/screen_text.h"
 
 namespace gsm {
