@@ -19,4 +19,8 @@ Route services(Panel& panel);
 /// Looks at the three locks, and turns the SIM's PIN, which is on, off and on again.
 Route locks(Panel& panel);
 
+/// Changes gains, echo cancellation, side tone, auto-answer and tone length, which are those of a
+/// modem as it comes.
+Route audio(Panel& panel);
+
 }  // namespace gsm

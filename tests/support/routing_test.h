@@ -25,6 +25,13 @@ class RoutingTest : public OpenPortTest {
     return form1().Timer2.Enabled.peek();
   }
 
+  /// Loads the audio window, which the first of its replies would load else, with reads of its own.
+  void loadAudio() {
+    inPanel([this] { panel().form6.reference(); });
+    settle();
+    sent();
+  }
+
   void clearTranscript() {
     inPanel([this] { form1().Text1.clear(); });
     run(0);

@@ -1,7 +1,8 @@
 #include "audio/form6.h"
-#include "link/pair_reply.h"
+#include "link/conversation.h"
 #include "panel/form1.h"
 #include "panel/panel.h"
+#include "platform/runtime_failure.h"
 
 namespace gsm {
 namespace {
@@ -28,13 +29,12 @@ void Form1::showMicrophoneGain(Position key) {
            window.Slider2);
 }
 
-void Form1::showSideTone(Position key) {
-  const PairReply reply = pairReply(Text1, key + 6);
-  const double state = number(reply.first);
-  Form6& window = panel_.form6;
-  if (state == 0) window.Option1.Value = true;
-  if (state == 1) window.Option2.Value = true;
-  window.Slider10.Value = wholeNumber(reply.second);
+// The outcome of both is the dispatcher's to tell. A gain that isn't known is left alone.
+void Form6::changeGains() try {
+  if (!Label5.Caption.empty()) modem().exchange("AT+VGR=" + trim(Label5.Caption.get()));
+  if (!Label6.Caption.empty()) modem().exchangeOnTop("AT+VGT=" + trim(Label6.Caption.get()));
+} catch (const RuntimeFailure&) {
+  // Ends silently.
 }
 
 }  // namespace gsm
