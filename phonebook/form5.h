@@ -13,6 +13,9 @@ class Form5 : public Window {
  public:
   explicit Form5(Panel& panel);
 
+  /// Tells who answers: the user, or else the modem by itself.
+  void answerByHand(bool byHand);
+
   Frame Frame1{*this, "Frame1"};
   Label Label1{*this, "Label1", {.In = &Frame1}};  // who calls
   Label Label2{*this, "Label2", {.In = &Frame1}};  // whether the modem answers by itself

@@ -69,6 +69,15 @@ Deed type(const Control& control, const char* keys) {
   };
 }
 
+Deed press(const Control& control, Qt::Key key) {
+  return [&control, key](const Binder& screen) {
+    QWidget& widget = onView(screen, control);
+    widget.setFocus(Qt::MouseFocusReason);
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+  };
+}
+
 Deed pick(const Control& list, int index) {
   return [&list, index](const Binder& screen) {
     auto& widget = dynamic_cast<QListWidget&>(onView(screen, list));

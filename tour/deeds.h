@@ -24,6 +24,9 @@ Deed turn(const TabStrip& strip, int tab);
 /// Types `keys` into a control, key by key.
 Deed type(const Control& control, const char* keys);
 
+/// Presses one key, which has no character, on a control.
+Deed press(const Control& control, Qt::Key key);
+
 /// Picks the item at `index`, counted from 0, by its place on the screen.
 Deed pick(const Control& list, int index);
 

@@ -163,7 +163,7 @@ std::optional<Route> routeOf(const QString& name, Panel& panel, const QString& c
   if (name == "pin") return simCode(panel);
   if (name == "services") {
     return joined({simCode(panel), phoneBook(panel), callsLeft(panel), messages(panel, console),
-                   services(panel), locks(panel)});
+                   services(panel), locks(panel), audio(panel)});
   }
   if (name == "features") {
     return joined({startUp(panel), lineSettings(panel), data(panel),

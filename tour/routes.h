@@ -24,6 +24,10 @@ using Route = std::vector<Stop>;
 /// and locks, all of them those of a simulated modem as it comes; "features", through the modem's
 /// own settings, data and fax and the module's own features. `console` is the simulated modem's;
 /// without one, as with a real modem, nobody calls or writes. None when there is no such route.
+/// the prompt for the SIM's code; "services", past it too and through messages, network services,
+/// locks and sound, all of them those of a simulated modem as it comes. `console` is the simulated
+/// modem's; without one, as with a real modem, nobody calls or writes. None when there is no such
+/// route.
 std::optional<Route> routeOf(const QString& name, Panel& panel, const QString& console);
 
 }  // namespace gsm

@@ -1,5 +1,6 @@
 #include "tests/contract/handlers.h"
 
+#include "audio/form6.h"
 #include "modem/form10.h"
 #include "module/form17.h"
 #include "module/form18.h"
@@ -147,6 +148,40 @@ void fillLineSettings(Panel& panel) {
         &window.Option23, &window.Option25, &window.Option28}) {
     option->Value = true;
   }
+void turnToEcho(Panel& panel) {
+  panel.form6.TabStrip1.Value = 2;
+  panel.form6.Frame2.Visible = true;
+}
+void turnToAnswer(Panel& panel) {
+  panel.form6.TabStrip1.Value = 3;
+  panel.form6.Frame10.Visible = true;
+}
+void knowGains(Panel& panel) {
+  panel.form6.Label5.Caption = "128";
+  panel.form6.Label6.Caption = "064";
+}
+void chooseEcho(Panel& panel) {
+  turnToEcho(panel);
+  panel.form6.Combo1.Text = "0";
+  panel.form6.Combo2.Text = "3";
+}
+void chooseSideTone(Panel& panel) {
+  turnToEcho(panel);
+  panel.form6.Option2.Value = true;
+}
+void chooseAnswer(Panel& panel) {
+  turnToAnswer(panel);
+  panel.form6.Option4.Value = true;
+  panel.form6.Combo3.Text = "2";
+}
+void enterToneLength(Panel& panel) {
+  turnToAnswer(panel);
+  panel.form6.Text1.Text = "300";
+}
+void chooseMelody(Panel& panel) {
+  panel.form6.turnPage(4);
+  panel.form6.Combo4.ListIndex = 0;
+  panel.form6.Combo5.ListIndex = 1;
 }
 
 std::vector<HandlerRow> makeHandlers() {
@@ -249,6 +284,18 @@ std::vector<HandlerRow> makeHandlers() {
       {"OpenContexts", "Form16", "Command3", Trap::silent, false, {1}},
       {"DefineContext", "Form19", "Command1", Trap::silent, true, {1, 1}, fillContext},
       {"RefreshContexts", "Form19", "Command2", Trap::silent, true, {1}},
+      {"PageOfTheGains", "Form6", "TabStrip1", Trap::silent, false, {}},
+      {"PageOfTheEcho", "Form6", "TabStrip1", Trap::silent, true, {1, 1}, turnToEcho},
+      {"PageOfTheAnswer", "Form6", "TabStrip1", Trap::silent, true, {1, 1}, turnToAnswer},
+      {"SendGains", "Form6", "Command1", Trap::silent, true, {1, 1}, knowGains},
+      {"BackFromAudio", "Form6", "Command2", Trap::silent, false, {}},
+      {"SendEcho", "Form6", "Command3", Trap::silent, true, {1}, chooseEcho},
+      {"SendSideTone", "Form6", "Command4", Trap::silent, true, {1}, chooseSideTone},
+      {"HideRings", "Form6", "Option3", Trap::silent, false, {}, turnToAnswer},
+      {"ShowRings", "Form6", "Option4", Trap::silent, false, {}, turnToAnswer},
+      {"SendAnswer", "Form6", "Command5", Trap::silent, true, {1}, chooseAnswer},
+      {"SendToneLength", "Form6", "Command6", Trap::silent, true, {1}, enterToneLength},
+      {"SendMelody", "Form6", "Command7", Trap::silent, true, {1}, chooseMelody},
   };
   return rows;
 }

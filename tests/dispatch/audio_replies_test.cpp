@@ -8,13 +8,23 @@
 namespace gsm {
 namespace {
 
+class AudioReplies : public RoutingTest {
+ protected:
+  void SetUp() override {
+    RoutingTest::SetUp();
+    loadAudio();
+    inPanel([this] { panel().form6.Label7.Caption = ""; });
+    run(0);
+  }
+};
+
 struct OutcomeRow {
   std::string name;
   std::string text;
   std::string status;
 };
 
-class AudioChange : public RoutingTest, public ::testing::WithParamInterface<OutcomeRow> {};
+class AudioChange : public AudioReplies, public ::testing::WithParamInterface<OutcomeRow> {};
 
 TEST_P(AudioChange, ShowsItsOutcomeAndClearsTheTranscript) {
   route(GetParam().text);
@@ -44,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
         OutcomeRow{"SideToneWithoutResultYet", "AT+SIDET=1,0\r", kUnsuccessful}),
     RowName());
 
-TEST_F(RoutingTest, WithTheEchoOffNoAudioChangeGetsAStatus) {
+TEST_F(AudioReplies, WithTheEchoOffNoAudioChangeGetsAStatus) {
   for (int command = 0; command < 4; ++command) route("\r\nOK\r\n");
   EXPECT_EQ(audioStatus(), "");
   EXPECT_EQ(transcript(), "\r\nOK\r\n\r\nOK\r\n\r\nOK\r\n\r\nOK\r\n");
@@ -58,7 +68,7 @@ struct GainRow {
   int value;
 };
 
-class Gain : public RoutingTest, public ::testing::WithParamInterface<GainRow> {};
+class Gain : public AudioReplies, public ::testing::WithParamInterface<GainRow> {};
 
 TEST_P(Gain, OfTheSpeakerIsShown) {
   route("AT+VGR?\r\r\n+VGR:" + GetParam().behindKey);
@@ -90,13 +100,13 @@ INSTANTIATE_TEST_SUITE_P(
                       GainRow{"WithoutABlankLosesTheFirstDigit", "128\r\n", "28\r", 28}),
     RowName());
 
-TEST_F(RoutingTest, OfTwoGainsTheFirstCounts) {
+TEST_F(AudioReplies, OfTwoGainsTheFirstCounts) {
   route(information("+VGR: 16") + information("+VGR: 240"));
   EXPECT_EQ(speakerGain(), "16\r");
   EXPECT_EQ(transcript(), "");
 }
 
-TEST_F(RoutingTest, AGainArrivesWithoutAnEcho) {
+TEST_F(AudioReplies, AGainArrivesWithoutAnEcho) {
   route(information("+VGR: 128"));
   route(information("+VGT: 224"));
   EXPECT_EQ(speakerGain(), "128");
@@ -110,7 +120,7 @@ struct BadGainRow {
   std::string gain;
 };
 
-class BadGain : public RoutingTest, public ::testing::WithParamInterface<BadGainRow> {};
+class BadGain : public AudioReplies, public ::testing::WithParamInterface<BadGainRow> {};
 
 TEST_P(BadGain, OfTheSpeakerStopsTheRoutingBehindTheLabels) {
   const std::string text = "\r\n+VGR:" + GetParam().behindKey;
@@ -153,7 +163,7 @@ struct SideToneRow {
   int level;
 };
 
-class SideTone : public RoutingTest, public ::testing::WithParamInterface<SideToneRow> {};
+class SideTone : public AudioReplies, public ::testing::WithParamInterface<SideToneRow> {};
 
 TEST_P(SideTone, IsShown) {
   panel().form6.Slider10.Value = 1;
@@ -181,7 +191,7 @@ struct BadSideToneRow {
   bool enabled;  // whether the state had been read
 };
 
-class BadSideTone : public RoutingTest, public ::testing::WithParamInterface<BadSideToneRow> {};
+class BadSideTone : public AudioReplies, public ::testing::WithParamInterface<BadSideToneRow> {};
 
 TEST_P(BadSideTone, StopsTheRoutingWhereItFails) {
   panel().form6.Slider10.Value = 1;

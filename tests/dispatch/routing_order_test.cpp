@@ -23,6 +23,12 @@ struct TextRow {
 
 class RoutingOrder : public RoutingTest {
  protected:
+  void SetUp() override {
+    RoutingTest::SetUp();
+    loadAudio();
+    inPanel([this] { panel().form6.Label7.Caption = ""; });
+    run(0);
+  }
   bool ringHeard() { return form1().Timer2.Enabled.peek(); }
 };
 

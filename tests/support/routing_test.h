@@ -16,6 +16,17 @@ class RoutingTest : public OpenPortTest {
   bool hearsRing();
 
   void clearTranscript();
+  /// Loads the audio window, which the first of its replies would load else, with reads of its own.
+  void loadAudio() {
+    inPanel([this] { panel().form6.reference(); });
+    settle();
+    sent();
+  }
+
+  void clearTranscript() {
+    inPanel([this] { form1().Text1.clear(); });
+    run(0);
+  }
 
   std::string audioStatus();
   std::string speakerGain();

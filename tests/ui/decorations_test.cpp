@@ -14,12 +14,15 @@ class DecoratedWindow : public Window {
   Label Label1{*this, "Label1"};
   Label Label2{*this, "Label2"};
   Frame Frame5{*this, "Frame5"};
+  Frame Frame6{*this, "Frame6"};
+  Frame Frame7{*this, "Frame7"};
 };
 
 class DecorationsTest : public FormTest {
  protected:
   DecorationsTest() {
     tiles_.setProperty("insteadOf", "Frame5");
+    covered_.setProperty("insteadOf", "Frame6");
     hint_.setProperty("whileEmpty", "Label1 Label2");
     bind(window_);
   }
@@ -28,6 +31,8 @@ class DecorationsTest : public FormTest {
   QLabel& label1_ = put<QLabel>("Label1");
   QLabel& label2_ = put<QLabel>("Label2");
   QFrame& frame_ = put<QFrame>("Frame5");
+  QFrame& covering_ = put<QFrame>("Frame6");
+  QFrame& covered_ = put<QFrame>("Frame7");
   QWidget& tiles_ = put<QWidget>("decoTiles");
   QLabel& hint_ = put<QLabel>("decoHint");
 };
@@ -44,6 +49,20 @@ TEST_F(DecorationsTest, OneOfTwoPagesIsThere) {
 TEST_F(DecorationsTest, TheFormKeepsItsSizeWhenPagesChange) {
   EXPECT_TRUE(frame_.sizePolicy().retainSizeWhenHidden());
   EXPECT_TRUE(tiles_.sizePolicy().retainSizeWhenHidden());
+}
+
+TEST_F(DecorationsTest, OfTwoFramesOnOnePlaceOneIsCoveredWhileBothAreOnView) {
+  EXPECT_TRUE(covering_.isVisible());
+  EXPECT_FALSE(covered_.isVisible()) << "out of reach of the keyboard too";
+  window_.Frame6.Visible = false;
+  EXPECT_TRUE(covered_.isVisible());
+  window_.Frame6.Visible = true;
+  window_.Frame7.Visible = false;
+  window_.Frame7.Visible = true;
+  EXPECT_FALSE(covered_.isVisible());
+  window_.Frame6.Visible = false;
+  window_.Frame7.Visible = false;
+  EXPECT_FALSE(covered_.isVisible());
 }
 
 TEST_F(DecorationsTest, AHintStandsThereWhileAllItsLabelsAreEmpty) {

@@ -39,6 +39,7 @@ Decorations::Decorations(QWidget& form, const Platform& platform)
       if (auto* place = form.findChild<QWidget*>(name.toString())) {
         places_.push_back({place, widget});
         place->installEventFilter(this);
+        widget->installEventFilter(this);
         keepRoom(*place);
         keepRoom(*widget);
         widget->setVisible(place->isHidden());
@@ -56,9 +57,12 @@ Decorations::Decorations(QWidget& form, const Platform& platform)
 }
 
 bool Decorations::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
+  const bool isShown = event->type() == QEvent::ShowToParent;
+  if (isShown || event->type() == QEvent::HideToParent) {
     for (const Place& place : places_) {
       if (place.widget == watched) place.standIn->setVisible(place.widget->isHidden());
+      // One that is a control's may be shown by itself.
+      if (place.standIn == watched && isShown && !place.widget->isHidden()) place.standIn->hide();
     }
   }
   return false;

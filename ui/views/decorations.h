@@ -12,6 +12,7 @@ namespace gsm {
 /// What a form shows of its own accord, beside the controls. Its widgets say so in dynamic
 /// properties:
 /// - `insteadOf`: the name of a widget in whose place this one stands: one or the other is there.
+///   This one may be a control's of its own, which is covered while both are on view.
 /// - `whileEmpty`: names of labels, with blanks between. Shown while all of them are empty and no
 ///   handler runs.
 /// - `tellsOfDevice`: true for what tells that the port's device has gone, by the property `gone`

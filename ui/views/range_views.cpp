@@ -11,7 +11,14 @@ SliderView::SliderView(Slider& control, QSlider& widget, const UserActions& acti
     : ViewOf(control, widget, actions) {
   widget.setSingleStep(control.smallChange());
   widget.setPageStep(control.largeChange());
-  connect(&widget, &QSlider::valueChanged, this, [this] { post([this] { return take(); }); });
+  for (auto* label : widget.window()->findChildren<QLabel*>()) {
+    if (label->property("valueOf") == widget.objectName()) valueLabels_.push_back(label);
+  }
+  widget.installEventFilter(this);
+  connect(&widget, &QSlider::valueChanged, this, [this] {
+    tellValue();
+    post([this] { return take(); });
+  });
 }
 
 // Takes over where the slider stands by now: while it is dragged, several moves may have been
@@ -25,6 +32,30 @@ void SliderView::show(PropertyId) {
   const QSignalBlocker quiet(widget_);
   widget_.setRange(control_.Min.peek(), control_.Max.peek());
   widget_.setValue(control_.Value.peek());
+  tellValue();
+}
+
+void SliderView::tellValue() {
+  for (QLabel* label : valueLabels_) label->setNum(widget_.value());
+}
+
+// Qt's own wheel moves a slider by several steps at a notch.
+bool SliderView::eventFilter(QObject*, QEvent* event) {
+  if (event->type() != QEvent::Wheel) return false;
+  if (widget_.isEnabled()) turnWheel(static_cast<const QWheelEvent&>(*event));
+  event->accept();
+  return true;
+}
+
+// Away from the user and to the right is more. A fine wheel turns by parts of a notch, which add
+// up.
+void SliderView::turnWheel(const QWheelEvent& event) {
+  const QPoint delta = event.angleDelta();
+  const int turn = delta.y() != 0 ? delta.y() : -delta.x();
+  turned_ += event.inverted() ? -turn : turn;
+  const int notches = turned_ / QWheelEvent::DefaultDeltasPerStep;
+  turned_ %= QWheelEvent::DefaultDeltasPerStep;
+  widget_.setValue(widget_.value() + notches * widget_.singleStep());
 }
 
 TabView::TabView(TabStrip& control, QTabBar& widget, const UserActions& actions)
