@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/module/makers_features_test.h"
+#include "tests/support/property_watch.h"
 
 namespace gsm {
 namespace {
@@ -154,6 +155,15 @@ TEST_F(MakerPages, ClosingTheWindowSendsNothingAndLosesItsState) {
   openWindow();
   EXPECT_EQ(pages(), Texts{"Frame1"});
   EXPECT_EQ(caption(form().Label13), "");
+}
+
+TEST_F(MakerPages, TheWindowGoesBeforeTheMenuComes) {
+  bool wasGone = false;
+  const PropertyWatch watch(menu(), [&](PropertyId property) {
+    if (property == PropertyId::Visible) wasGone = !form().Visible.peek();
+  });
+  closeWindow();
+  EXPECT_TRUE(wasGone);
 }
 
 TEST_F(MakerPages, MaximisingTheWindowTellsTheStatusWindowNothing) {

@@ -54,6 +54,14 @@ TEST_P(CutFeatureReply, OfTheIndicatorsIsWholeAgainWhenTheRestFollowsShortly) {
   EXPECT_EQ(indicators(), kWords);
 }
 
+TEST_P(CutFeatureReply, OfAModemThatHasNoIndicatorsIsJudgedAsFarAsItGoes) {
+  const std::string whole = kCommand + "\r" + kError;
+  answerCut(kCommand, whole);
+  press(form().Command6);
+  EXPECT_EQ(indicators(), holds(begin(whole), "ERROR") ? "Works Only For Sendari 100" : kWaiting);
+  EXPECT_EQ(transcript(), "");
+}
+
 TEST_P(CutFeatureReply, OfAChangeIsJudgedAsFarAsItGoes) {
   const std::string command = "AT+WIND=64";
   const std::string whole = command + "\r" + kOk;
