@@ -188,6 +188,44 @@ TEST_F(ContextsChange, ARefreshInTheMiddleIsReadFirst) {
   expectAtRest();
 }
 
+TEST_F(ContextsChange, APollsOkInTheMiddleIsTakenForTheModems) {
+  reply("AT+CIND?", information("+CIND: 5,4,1,0,1,0,0"));
+  fillIn(0, 0, "name");
+  inPanel([this] { form1().Timer2.Enabled = true; });
+  run(1.5);
+  click(form().Command1);
+  run(10);
+  EXPECT_EQ(form().Text1.Text.peek(), "");
+}
+
+TEST_F(ContextsChange, ARingTakesTheOutcomeThatItComesWith) {
+  fillIn(0, 0, "name");
+  reply("AT+CGDCONT=1,\"IP\",\"name\"", kOk + unsolicited("RING"));
+  click(form().Command1);
+  run(2.5);
+  EXPECT_EQ(form().Text1.Text.peek(), "name");
+  EXPECT_TRUE(form1().Timer2.Enabled.peek());
+  inPanel([this] { form1().Timer2.Enabled = false; });
+  settle();
+  EXPECT_EQ(form().Text1.Text.peek(), "name");
+  EXPECT_EQ(line(), "Current Status");
+}
+
+TEST_F(ContextsChange, ClosingTheWindowInTheMiddleLoadsItAnewAndReadsOnceMore) {
+  fillIn(0, 0, "name");
+  reply("AT+CGDCONT=1,\"IP\",\"name\"", kOk);
+  click(form().Command1);
+  run(0.5);
+  closeWindow();
+  settle();
+  EXPECT_TRUE(form().isLoaded());
+  EXPECT_FALSE(form().Visible.peek());
+  EXPECT_EQ(sent(), (Texts{"AT+CGDCONT=1,\"IP\",\"name\"\r", "AT+CGDCONT?\r", "AT+CGDCONT?\r"}));
+  EXPECT_EQ(line(), "Current Status");
+  EXPECT_EQ(grid(), Texts{"1|IP|internet"});
+  expectAtRest();
+}
+
 // The window and its menu.
 
 TEST_F(ContextsChange, ClosingItSendsNothingAndBringsTheMenuBack) {

@@ -266,6 +266,39 @@ TEST_F(ToolkitChange, ARefreshInTheMiddleTakesTheOutcome) {
   expectAtRest();
 }
 
+TEST_F(ToolkitChange, APollsOkInTheMiddleIsTakenForTheModems) {
+  reply("AT+CIND?", information("+CIND: 5,4,1,0,1,0,0"));
+  inPanel([this] { form1().Timer2.Enabled = true; });
+  run(1.5);
+  click(form().Command1);
+  run(5);
+  EXPECT_EQ(line(), "Changes SuccessFul-SIM ToolKit");
+  EXPECT_TRUE(wantsReset());
+}
+
+TEST_F(ToolkitChange, ARingTakesTheOutcomeThatItComesWith) {
+  reply("AT+STSF=1", kOk + unsolicited("RING"));
+  click(form().Command1);
+  run(3);
+  EXPECT_EQ(line(), "");
+  EXPECT_FALSE(wantsReset());
+  EXPECT_TRUE(form1().Timer2.Enabled.peek());
+}
+
+TEST_F(ToolkitChange, ClosingTheWindowInTheMiddleLoadsItAnewWithTheOutcome) {
+  reply("AT+STSF=1", kOk);
+  click(form().Command1);
+  run(0.5);
+  closeWindow();
+  settle();
+  EXPECT_TRUE(form().isLoaded());
+  EXPECT_FALSE(form().Visible.peek());
+  EXPECT_EQ(sent(), (Texts{"AT+STSF=1\r", "AT+STSF?\r"}));
+  EXPECT_EQ(line(), "Changes SuccessFul-SIM ToolKit");
+  EXPECT_TRUE(wantsReset());
+  expectAtRest();
+}
+
 // The window and its menu.
 
 TEST_F(ToolkitChange, ClosingItSendsNothingAndBringsTheMenuBack) {
