@@ -23,7 +23,15 @@ class RecordReader {
     if (line.has("full")) record_.full = line.flag("full", false);
   }
 
-  RecordFile record() && { return std::move(record_); }
+  // At its own port the modem was silent at some speeds; what was written to others never reached
+  // it.
+  RecordFile record() && {
+    std::erase_if(written_, [this](const Written& each) {
+      return record_.port && each.port != record_.port && each.exchange.chunks.empty();
+    });
+    for (Written& each : written_) record_.exchanges.push_back(std::move(each.exchange));
+    return std::move(record_);
+  }
 
  private:
   void takeOpening(const Request& line) {
@@ -46,13 +54,13 @@ class RecordReader {
   void takeWrite(const Request& line) {
     ModemReplay::Exchange exchange{.write = line.text("out"), .baud = baud_};
     if (line.has("blotted")) exchange.blots = blotsOf(line.raw("blotted"), exchange.write.size());
-    record_.exchanges.push_back(std::move(exchange));
+    written_.push_back({port_, std::move(exchange)});
     writtenAt_ = at_;
   }
 
   void takeChunk(std::string text) {
     if (!record_.port) record_.port = port_;
-    auto& chunks = record_.exchanges.empty() ? record_.greeting : record_.exchanges.back().chunks;
+    auto& chunks = written_.empty() ? record_.greeting : written_.back().exchange.chunks;
     chunks.push_back({std::max(at_ - writtenAt_, Duration::zero()), std::move(text)});
   }
 
@@ -71,7 +79,13 @@ class RecordReader {
     return blots;
   }
 
+  struct Written {
+    std::optional<int> port;
+    ModemReplay::Exchange exchange;
+  };
+
   RecordFile record_;
+  std::vector<Written> written_;
   Duration at_{0};
   Duration writtenAt_{0};
   std::optional<int> port_;
