@@ -6,6 +6,9 @@
 #include "modem/form2.h"
 #include "modem/form20.h"
 #include "module/form16.h"
+#include "module/form17.h"
+#include "module/form18.h"
+#include "module/form19.h"
 #include "panel/form1.h"
 #include "panel/form7.h"
 #include "phonebook/form3.h"
@@ -25,28 +28,6 @@
 
 namespace gsm {
 
-Windows::Windows(Platform& machine)
-    : panel{.platform = machine,
-            .form1 = form1_,
-            .form2 = form2_,
-            .form3 = form3_,
-            .form4 = form4_,
-            .form5 = form5_,
-            .form6 = form6_,
-            .form7 = form7_,
-            .form8 = form8_,
-            .form9 = form9_,
-            .form10 = form10_,
-            .form11 = form11_,
-            .form12 = form12_,
-            .form14 = form14_,
-            .form15 = form15_,
-            .form16 = form16_,
-            .form17 = form17_,
-            .form18 = form18_,
-            .form19 = form19_,
-            .form20 = form20_,
-            .settings = settings_} {}
 struct Windows::All {
   explicit All(Platform& machine)
       : panel{.platform = machine,
@@ -65,6 +46,9 @@ struct Windows::All {
               .form14 = form14,
               .form15 = form15,
               .form16 = form16,
+              .form17 = form17,
+              .form18 = form18,
+              .form19 = form19,
               .form20 = form20,
               .settings = settings} {}
 
@@ -84,6 +68,9 @@ struct Windows::All {
   Form14 form14{panel};
   Form15 form15{panel};
   Form16 form16{panel};
+  Form17 form17{panel};
+  Form18 form18{panel};
+  Form19 form19{panel};
   Form20 form20{panel};
   frmSettings settings{panel};
 };

@@ -5,6 +5,7 @@
 #include "panel/panel.h"
 #include "phonebook/auto_answer.h"
 #include "phonebook/form5.h"
+#include "platform/message_boxes.h"
 #include "platform/platform.h"
 #include "platform/runtime_failure.h"
 

@@ -1,14 +1,15 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "controls/list_controls.h"
 #include "controls/option_button.h"
 #include "controls/simple_controls.h"
 #include "controls/slider.h"
-#include "link/text.h"
-#include <string>
-#include <string_view>
-
 #include "controls/tab_strip.h"
+#include "controls/text_box.h"
+#include "link/text.h"
 #include "panel/feature_window.h"
 
 namespace gsm {
@@ -24,7 +25,6 @@ class Form6 : public FeatureWindow {
   void showMicrophoneGain(Position key);
   void showSideTone(Position key);
 
-  Label Label7{*this, "Label7"};  // the status line
   /// Shows the page of `tab`, counted from 1, in the place of the others, and fills it. Page 4 is
   /// the ring melody's, to which no tab leads.
   void turnPage(int tab);

@@ -1,12 +1,6 @@
 #include "audio/form6.h"
 #include "link/conversation.h"
-<<<<<<< HEAD:audio/gain_replies.cpp
-#include "link/pair_reply.h"
-=======
-#include "panel/form1.h"
-#include "panel/panel.h"
 #include "platform/runtime_failure.h"
->>>>>>> audio:audio/gains.cpp
 
 namespace gsm {
 namespace {
@@ -29,21 +23,12 @@ void Form6::showMicrophoneGain(Position key) {
   showGain(*this, modem().slice(key + 5, 3), "Default Values-MicroPhone ", Label6, Slider2);
 }
 
-<<<<<<< HEAD:audio/gain_replies.cpp
-void Form6::showSideTone(Position key) {
-  const PairReply reply = pairReply(modem(), key + 6);
-  const double state = number(reply.first);
-  if (state == 0) Option1.Value = true;
-  if (state == 1) Option2.Value = true;
-  Slider10.Value = wholeNumber(reply.second);
-=======
 // The outcome of both is the dispatcher's to tell. A gain that isn't known is left alone.
 void Form6::changeGains() try {
   if (!Label5.Caption.empty()) modem().exchange("AT+VGR=" + trim(Label5.Caption.get()));
   if (!Label6.Caption.empty()) modem().exchangeOnTop("AT+VGT=" + trim(Label6.Caption.get()));
 } catch (const RuntimeFailure&) {
   // Ends silently.
->>>>>>> audio:audio/gains.cpp
 }
 
 }  // namespace gsm

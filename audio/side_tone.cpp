@@ -4,8 +4,7 @@
 #include "link/conversation.h"
 #include "link/pair_reply.h"
 #include "panel/choices.h"
-#include "panel/form1.h"
-#include "panel/panel.h"
+#include "platform/message_boxes.h"
 #include "platform/platform.h"
 #include "platform/runtime_failure.h"
 
@@ -19,14 +18,13 @@ constexpr std::array kStates = {
 
 }  // namespace
 
-void Form1::showSideTone(Position key) {
-  const PairReply reply = pairReply(Text1, key + 6);
+void Form6::showSideTone(Position key) {
+  const PairReply reply = pairReply(modem(), key + 6);
   const double told = number(reply.first);
-  Form6& window = panel_.form6;
   for (const auto& state : kStates) {
-    if (told == number(state.code)) (window.*state.option).Value = true;
+    if (told == number(state.code)) (this->*state.option).Value = true;
   }
-  window.Slider10.Value = wholeNumber(reply.second);
+  Slider10.Value = wholeNumber(reply.second);
 }
 
 // The level goes out with the side tone off too. The outcome is the dispatcher's to tell.

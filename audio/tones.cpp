@@ -2,6 +2,7 @@
 
 #include "audio/form6.h"
 #include "link/conversation.h"
+#include "platform/message_boxes.h"
 #include "platform/platform.h"
 #include "platform/runtime_failure.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/controls.h"
+#include "controls/simple_controls.h"
 #include "panel/feature_window.h"
 
 namespace gsm {

@@ -3,7 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "controls/controls.h"
+#include "controls/list_controls.h"
+#include "controls/simple_controls.h"
 #include "module/module_window.h"
 
 namespace gsm {

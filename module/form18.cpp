@@ -6,6 +6,7 @@
 #include "link/conversation.h"
 #include "panel/choices.h"
 #include "panel/panel.h"
+#include "platform/message_boxes.h"
 #include "platform/platform.h"
 #include "platform/runtime_failure.h"
 

@@ -6,6 +6,7 @@
 #include "link/conversation.h"
 #include "module/form16.h"
 #include "panel/panel.h"
+#include "platform/message_boxes.h"
 #include "platform/platform.h"
 #include "platform/runtime_failure.h"
 

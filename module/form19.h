@@ -1,5 +1,8 @@
 #pragma once
 
+#include "controls/list_controls.h"
+#include "controls/simple_controls.h"
+#include "controls/text_box.h"
 #include "module/module_window.h"
 
 namespace gsm {

@@ -3,6 +3,8 @@
 #include "link/conversation.h"
 #include "module/form17.h"
 #include "panel/choices.h"
+#include "platform/message_boxes.h"
+#include "platform/platform.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

@@ -75,11 +75,13 @@ std::string wordsOfAll(std::string fields) {
 void Form17::readIndicators() try {
   Label14.Caption = "Wait..Checking Status";
   modem().exchange("AT+CIND?");
-  // A reference to a window that was closed meanwhile loads it, and that reads a reply of its own.
-  const std::string told = modem().text();
-  const Position key = position("+CIND:", told);
-  if (position("ERROR", told) != 0) Label14.Caption = "Works Only For Sendari 100";
-  if (key != 0) Label14.Caption = wordsOfAll(slice(told, key + 7, position("OK", told)));
+  const Position key = modem().position("+CIND:");
+  // The words load a window that was closed meanwhile, and its own reading takes the reply away.
+  if (modem().holds("ERROR")) Label14.Caption = "Works Only For Sendari 100";
+  if (key != 0) {
+    const std::string fields = modem().slice(key + 7, modem().position("OK"));
+    Label14.Caption = wordsOfAll(fields);
+  }
   modem().clear();
 } catch (const RuntimeFailure&) {
   // Ends silently.

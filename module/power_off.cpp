@@ -1,5 +1,8 @@
 #include "link/conversation.h"
 #include "module/form17.h"
+#include "platform/message_boxes.h"
+#include "platform/platform.h"
+#include "platform/program.h"
 #include "platform/runtime_failure.h"
 
 namespace gsm {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/list_controls.h"
+#include "controls/simple_controls.h"
 #include "panel/feature_window.h"
 
 namespace gsm {

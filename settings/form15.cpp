@@ -9,6 +9,7 @@
 #include "link/speeds.h"
 #include "panel/form1.h"
 #include "panel/panel.h"
+#include "platform/message_boxes.h"
 #include "platform/platform.h"
 #include "platform/runtime_failure.h"
 #include "settings/line_options.h"

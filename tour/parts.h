@@ -38,6 +38,7 @@ Route locks(Panel& panel);
 
 /// Sets the bearer, compression and error correction, and turns to the fax.
 Route data(Panel& panel);
+
 /// Changes gains, echo cancellation, side tone, auto-answer and tone length, which are those of a
 /// modem as it comes.
 Route audio(Panel& panel);

@@ -20,14 +20,11 @@ struct Stop {
 using Route = std::vector<Stop>;
 
 /// The route of that name: "panel", through the windows of a panel whose SIM is ready; "pin", past
-/// the prompt for the SIM's code; "services", past it too and through messages, network services
-/// and locks, all of them those of a simulated modem as it comes; "features", through the modem's
-/// own settings, data and fax and the module's own features. `console` is the simulated modem's;
-/// without one, as with a real modem, nobody calls or writes. None when there is no such route.
 /// the prompt for the SIM's code; "services", past it too and through messages, network services,
-/// locks and sound, all of them those of a simulated modem as it comes. `console` is the simulated
-/// modem's; without one, as with a real modem, nobody calls or writes. None when there is no such
-/// route.
+/// locks and sound; "features", through the modem's own settings, data and fax and the module's own
+/// features. What the last two meet is that of a simulated modem as it comes. `console` is the
+/// simulated modem's; without one, as with a real modem, nobody calls or writes. None when there is
+/// no such route.
 std::optional<Route> routeOf(const QString& name, Panel& panel, const QString& console);
 
 }  // namespace gsm

@@ -148,6 +148,8 @@ void fillLineSettings(Panel& panel) {
         &window.Option23, &window.Option25, &window.Option28}) {
     option->Value = true;
   }
+}
+
 void turnToEcho(Panel& panel) {
   panel.form6.TabStrip1.Value = 2;
   panel.form6.Frame2.Visible = true;

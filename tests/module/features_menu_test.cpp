@@ -2,6 +2,7 @@
 
 #include "module/form18.h"
 #include "module/form19.h"
+#include "panel/form7.h"
 #include "tests/module/makers_features_test.h"
 #include "tests/support/property_watch.h"
 

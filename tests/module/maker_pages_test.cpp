@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "panel/form7.h"
 #include "tests/module/makers_features_test.h"
 #include "tests/support/property_watch.h"
 

@@ -16,6 +16,12 @@ bool RoutingTest::hearsRing() {
   return form1().Timer2.Enabled.peek();
 }
 
+void RoutingTest::loadAudio() {
+  inPanel([this] { panel().form6.reference(); });
+  settle();
+  sent();
+}
+
 void RoutingTest::clearTranscript() {
   inPanel([this] { form1().Text1.clear(); });
   run(0);

@@ -15,18 +15,10 @@ class RoutingTest : public OpenPortTest {
   /// Whether a ring that comes now is heard: that test stands after nearly all others.
   bool hearsRing();
 
-  void clearTranscript();
   /// Loads the audio window, which the first of its replies would load else, with reads of its own.
-  void loadAudio() {
-    inPanel([this] { panel().form6.reference(); });
-    settle();
-    sent();
-  }
+  void loadAudio();
 
-  void clearTranscript() {
-    inPanel([this] { form1().Text1.clear(); });
-    run(0);
-  }
+  void clearTranscript();
 
   std::string audioStatus();
   std::string speakerGain();
