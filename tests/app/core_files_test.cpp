@@ -19,9 +19,9 @@ namespace {
 
 // The program with its port open on a device that never answers, on a machine that keeps core
 // files.
-class DesktopProgram : public ::testing::Test {
+class CoreFiles : public ::testing::Test {
  protected:
-  DesktopProgram() {
+  CoreFiles() {
     std::filesystem::create_directory(folder_.path() / "ports");
     std::filesystem::create_symlink(device_.device(), folder_.path() / "ports/COM3");
     folder_.write("COM.txt", "9600,N,8,1 3\r\n");
@@ -29,7 +29,7 @@ class DesktopProgram : public ::testing::Test {
     if (id_ == 0) start();
     while (!HasFailure() && heard_.find("AT+CGSN\r") == std::string::npos) listen();
   }
-  ~DesktopProgram() override {
+  ~CoreFiles() override {
     if (id_ > 0) end(SIGKILL);
   }
 
@@ -81,7 +81,7 @@ class DesktopProgram : public ::testing::Test {
   pid_t id_ = -1;
 };
 
-TEST_F(DesktopProgram, CantLeaveACoreFile) {
+TEST_F(CoreFiles, CantLeaveACoreFile) {
   EXPECT_TRUE(coreLimit() == "11bytes" || coreLimit() == "00bytes") << coreLimit();
   const int status = end(SIGABRT);
   EXPECT_TRUE(WIFSIGNALED(status));
