@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "modem/form2.h"
 #include "simulator/host/simulated_modem.h"
 #include "tests/settings/line_settings_test.h"
 
@@ -96,6 +97,17 @@ TEST_F(SimulatedLine, WithItsEchoOffIsStillHeardAndKeepsItOff) {
   EXPECT_EQ(ask("AT"), "\r\nOK\r\n");
   EXPECT_EQ(ask("ATZ"), "\r\nOK\r\n");
   EXPECT_EQ(ask("AT"), "\r\nOK\r\n");
+}
+
+// The readers of the dispatcher know a reply by the command in front of it.
+TEST_F(SimulatedLine, WithItsEchoOffIsReadByNoneThatLooksForIt) {
+  ask("ATI3");
+  EXPECT_NE(panel().form2.Label6.Caption.peek(), "");
+  panel().form2.Label6.Caption = "before";
+  click(form().Option27);
+  save();
+  ask("ATI3");
+  EXPECT_EQ(panel().form2.Label6.Caption.peek(), "before");
 }
 
 // The modem goes to the new rate and the port stays: nothing of the rest arrives.
