@@ -24,7 +24,7 @@ Form17::Form17(Panel& panel) : ModuleWindow(panel, "Form17", "GSM-Wavecom Featur
 
 void Form17::Form_Load() { openIndications(); }
 
-void Form17::turnTo(const Frame& page) { showPage({&Frame1, &Frame5, &Frame6, &Frame9}, page); }
+void Form17::turnTo(Frame& page) { showPage({&Frame1, &Frame5, &Frame6, &Frame9}, page); }
 
 // Whatever else the modem tells goes with the transcript.
 void Form17::change(std::string_view command, Label& status, const OutcomeWords& words) {

@@ -66,7 +66,7 @@ class Form17 : public ModuleWindow {
   void Form_Load() override;
 
  private:
-  void turnTo(const Frame& page);
+  void turnTo(Frame& page);
   void change(std::string_view command, Label& status, const OutcomeWords& words);
 
   void openIndications();

@@ -6,9 +6,13 @@
 
 namespace gsm {
 
-/// Shows the frame `shown` and hides the other ones of `pages`, which lie on one place.
-inline void showPage(std::initializer_list<Frame*> pages, const Frame& shown) {
-  for (Frame* page : pages) page->Visible = page == &shown;
+/// Hides the frames `pages`, which lie on one place, but `shown`, and then shows that one: in this
+/// order the screen never needs room for two, and the window doesn't grow.
+inline void showPage(std::initializer_list<Frame*> pages, Frame& shown) {
+  for (Frame* page : pages) {
+    if (page != &shown) page->Visible = false;
+  }
+  shown.Visible = true;
 }
 
 }  // namespace gsm
