@@ -96,6 +96,8 @@ int main(int count, char** arguments) {
     givenOptions(count, arguments);
   }
   const QApplication application(count, arguments);
+  // So a desktop finds the entry of the menu, and with it the icon, to the windows.
+  QGuiApplication::setDesktopFileName("gsm-application");
   const gsm::CommandLine options = givenOptions(count, arguments);
   const gsm::ProgramFolder folder = gsm::chooseProgramFolder(gsm::placesHere(options.folder));
   const gsm::FolderLock lock(folder.path);

@@ -82,10 +82,16 @@ class ComboBox : public ListControl {
   /// list refuses a text that is no item's with `invalidPropertyValue`.
   Property<std::string> Text;
 
+  /// The user has opened the list. The handler may fill it anew.
+  Event DropDown{*this};
+
   /// Empties the list and the text.
   void Clear();
 
   bool isEditable() const { return style_ == ComboStyle::editable; }
+
+  /// The user opens the list. False when the control is out of reach.
+  bool userDropDown() { return raiseIfReachable(DropDown); }
 
   // What the user does with an editable combo, as with a text box: False when it is out of reach
   // or takes no typing. Typing selects no item. It takes a single line, without control characters.

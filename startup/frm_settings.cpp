@@ -39,6 +39,7 @@ std::string takeField(std::string& rest) {
 
 frmSettings::frmSettings(Panel& panel)
     : Window(panel.platform, "frmSettings", {.Asks = true}), panel_(panel) {
+  cboPort.DropDown = [this] { listPortsAnew(); };
   for (OptionButton& option : optDataBits) option.Click = [this] { optDataBits_Click(); };
   for (OptionButton& option : optHandshake) {
     option.Click = [this, index = option.index()] { optHandshake_Click(index); };
@@ -108,6 +109,16 @@ void frmSettings::listPorts() {
                       tip + ": " + platform().ports.trouble(port));
     }
   }
+}
+
+// What was plugged in since the window came up is there when the list is opened, and what was
+// pulled out isn't. The choice stays as long as there is such an entry; else it is "<none>".
+void frmSettings::listPortsAnew() {
+  const std::string chosen = cboPort.Text;
+  cboPort.Clear();
+  listPorts();
+  cboPort.ListIndex = 0;
+  attempt([&] { cboPort.Text = chosen; });
 }
 
 // Selects each entry in turn until one is the port. An entry that isn't available is no number: the

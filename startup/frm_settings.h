@@ -61,6 +61,7 @@ class frmSettings : public Window {
 
  private:
   void listPorts();
+  void listPortsAnew();
   void selectPort();
   void selectSettings();
   void optDataBits_Click();

@@ -5,7 +5,9 @@
 namespace gsm {
 namespace {
 
+// The machine's time zone may change while the program runs: its owner travels.
 std::tm localFields(std::chrono::sys_seconds time) {
+  ::tzset();
   const std::time_t seconds = std::chrono::system_clock::to_time_t(time);
   std::tm fields{};
   ::localtime_r(&seconds, &fields);

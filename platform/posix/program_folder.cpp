@@ -21,6 +21,9 @@ bool mayWriteTo(const fs::path& folder) {
   return ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }
 
+// What is installed for everybody keeps no files there, not even those of root.
+bool isOfTheSystem(const fs::path& folder) { return folder.string().starts_with("/usr/"); }
+
 // A relative data folder is none, by the rules that those folders have.
 fs::path dataFolder(const ProgramFolder::Places& places) {
   if (places.dataHome.is_absolute()) return places.dataHome / "gsm-application";
@@ -38,7 +41,7 @@ ProgramFolder::Places placesHere(std::optional<fs::path> given) {
 
 ProgramFolder chooseProgramFolder(const ProgramFolder::Places& places) {
   if (places.given) return {*places.given};
-  if (mayWriteTo(places.beside)) return {places.beside};
+  if (!isOfTheSystem(places.beside) && mayWriteTo(places.beside)) return {places.beside};
   const fs::path users = dataFolder(places);
   std::error_code ignored;
   if (!users.empty()) fs::create_directories(users, ignored);

@@ -22,7 +22,8 @@ struct ProgramFolder {
 /// The places of this process. The names of folders are any bytes.
 ProgramFolder::Places placesHere(std::optional<std::filesystem::path> given);
 
-/// The given folder; else the one beside the program when this user may write to it; else
+/// The given folder; else the one beside the program when this user may write to it and the program
+/// isn't installed for everybody; else
 /// `gsm-application` in the user's data folder, which is made; and where that can't be, the one
 /// beside the program after all.
 ProgramFolder chooseProgramFolder(const ProgramFolder::Places& places);

@@ -48,6 +48,11 @@ class PortSettingsTest : public HealthyModemTest {
     world().time().after(Duration::zero(), [&combo, index] { combo.userSelect(index); });
     run(0);
   }
+  /// The user opens the list of the ports.
+  void openPortList() {
+    world().time().after(Duration::zero(), [this] { window().cboPort.userDropDown(); });
+    run(0);
+  }
   void ok() { click(window().cmdAction[0]); }
   void cancel() { click(window().cmdAction[1]); }
 

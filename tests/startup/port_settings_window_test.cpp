@@ -21,6 +21,28 @@ TEST_F(PortSettingsWindow, TellsWhichDeviceAPortIsAndWhyItCantBeUsed) {
             (Texts{"", "/dev/ttyS2", "/dev/ttyUSB0: held by 1234 (minicom)"}));
 }
 
+TEST_F(PortSettingsWindow, APortPluggedInMeanwhileAppearsWhenTheListIsOpened) {
+  startWith({{.number = 3}, {.number = 5, .held = true}});
+  openWindow();
+  window().cboPort.ListIndex = 1;
+  machine().ports.set({{.number = 3}, {.number = 4}, {.number = 5}});
+  openPortList();
+  EXPECT_EQ(window().cboPort.List.peek(), (Texts{"<none>", " 3", " 4", " 5"}));
+  EXPECT_EQ(window().cboPort.Text.peek(), " 3") << "the choice stays";
+  EXPECT_EQ(window().cboPort.ListIndex.peek(), 1);
+}
+
+TEST_F(PortSettingsWindow, APortPulledOutMeanwhileGoesFromTheListAndIsNoChoice) {
+  startWith({{.number = 3}, {.number = 4}});
+  openWindow();
+  window().cboPort.ListIndex = 2;
+  machine().ports.set({{.number = 3}});
+  openPortList();
+  EXPECT_EQ(window().cboPort.List.peek(), (Texts{"<none>", " 3"}));
+  EXPECT_EQ(window().cboPort.Text.peek(), "<none>");
+  EXPECT_EQ(window().cboPort.ListIndex.peek(), 0);
+}
+
 TEST_F(PortSettingsWindow, ListsTheTenSpeeds) {
   startWith({{.number = 3}});
   openWindow();

@@ -1,3 +1,4 @@
+#include <QAbstractItemView>
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
@@ -189,6 +190,30 @@ TEST_F(ListViewsTest, APickThatThePanelDoesntTakeIsUndone) {
 }
 
 // What is pasted may hold more than the control takes; the test's own rule stands for that.
+TEST_F(ListViewsTest, OpeningADropDownListLetsItBeFilledAnew) {
+  int openings = 0;
+  window_.cboPort.DropDown = [&] {
+    ++openings;
+    window_.cboPort.Clear();
+    for (const char* item : {"two", "four", "five", "six"}) window_.cboPort.AddItem(item);
+    window_.cboPort.ListIndex = 0;
+  };
+  drop_.showPopup();
+  EXPECT_EQ(openings, 0) << "never inside a widget's own event";
+  settle();
+  EXPECT_EQ(openings, 1);
+  EXPECT_TRUE(drop_.view()->isVisible());
+  EXPECT_EQ(drop_.count(), 4);
+  EXPECT_EQ(drop_.itemText(3), "six");
+  EXPECT_EQ(drop_.currentIndex(), 0);
+  drop_.hidePopup();
+  settle();
+  drop_.showPopup();
+  settle();
+  EXPECT_EQ(openings, 2);
+  drop_.hidePopup();
+}
+
 TEST_F(ListViewsTest, AnEditableComboShowsWhatTheControlHolds) {
   combo_.lineEdit()->setText("1\rATD112;\r");
   emit combo_.lineEdit()->textEdited(combo_.lineEdit()->text());

@@ -1,5 +1,7 @@
 #include "ui/views/list_views.h"
 
+#include <QAbstractItemView>
+#include <QEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
@@ -56,11 +58,35 @@ ComboView::ComboView(ComboBox& control, QComboBox& widget, const UserActions& ac
   widget.setItemDelegate(new QStyledItemDelegate(&widget));
   connect(&widget, &QComboBox::activated, this,
           [this](int index) { post([this, index] { return control_.userSelect(index); }); });
+  widget.view()->installEventFilter(this);
   if (!control.isEditable()) return;
   // Typing selects no item, and no item finishes what is typed.
   widget.setCompleter(nullptr);
   widget.lineEdit()->disconnect(SIGNAL(editingFinished()), &widget);
   connect(widget.lineEdit(), &QLineEdit::textEdited, this, [this] { takeTyping(); });
+}
+
+// Only the list itself tells that it is being opened, by whatever way.
+bool ComboView::eventFilter(QObject*, QEvent* event) {
+  if (event->type() == QEvent::Show) {
+    actions().post([this] {
+      const auto before = shown_;
+      const bool done = control_.userDropDown();
+      if (shown_ != before) fitOpenList();
+      return done;
+    });
+  }
+  return false;
+}
+
+// Qt gives the list its size when it is opened.
+void ComboView::fitOpenList() {
+  if (!widget_.view()->isVisible()) return;
+  const QSignalBlocker quiet(widget_.view());
+  widget_.hidePopup();
+  widget_.view()->removeEventFilter(this);
+  widget_.showPopup();
+  widget_.view()->installEventFilter(this);
 }
 
 // What the box holds by then, as with a text box.

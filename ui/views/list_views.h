@@ -18,10 +18,13 @@ class ComboView : public ViewOf<ComboBox, QComboBox> {
   void show(PropertyId property) override;
 
  private:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
   void takeTyping();
   void showItems();
   void showSelection();
   void showText();
+  void fitOpenList();
 
   std::vector<std::string> shown_;
 };

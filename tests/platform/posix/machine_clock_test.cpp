@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdlib>
+#include <optional>
+#include <string>
 #include <thread>
 
 namespace gsm {
@@ -32,6 +36,43 @@ TEST(MachineClock, TellsTheMachinesLocalTime) {
   EXPECT_EQ(told.year, fields.tm_year + 1900);
   EXPECT_EQ(told.month, fields.tm_mon + 1);
   EXPECT_EQ(told.hour, fields.tm_hour);
+}
+
+// The rule of a time zone, as long as the object lives.
+class TimeZone {
+ public:
+  explicit TimeZone(const std::string& rule) { ::setenv("TZ", rule.c_str(), 1); }
+  ~TimeZone() {
+    was_ ? ::setenv("TZ", was_->c_str(), 1) : ::unsetenv("TZ");
+    ::tzset();
+  }
+  TimeZone(const TimeZone&) = delete;
+  TimeZone& operator=(const TimeZone&) = delete;
+
+ private:
+  const std::optional<std::string> was_ =
+      std::getenv("TZ") == nullptr ? std::nullopt : std::optional<std::string>(std::getenv("TZ"));
+};
+
+// The hours between what the clock tells under two rules.
+int hoursBetween(const MachineClock& clock, const std::string& first, const std::string& second) {
+  const TimeZone before(first);
+  const float begin = clock.secondsSinceMidnight();
+  const TimeZone after(second);
+  const float passed = clock.secondsSinceMidnight() - begin;
+  return (static_cast<int>(std::lround(passed / 3600)) + 24) % 24;
+}
+
+TEST(MachineClock, FollowsAChangeOfTheTimeZone) {
+  const MachineClock clock;
+  EXPECT_EQ(hoursBetween(clock, "UTC0", "AAA-5"), 5);
+  EXPECT_EQ(hoursBetween(clock, "AAA-5", "BBB+3"), 16);
+}
+
+TEST(MachineClock, FollowsSummerTime) {
+  const MachineClock clock;
+  // All the year, and never.
+  EXPECT_EQ(hoursBetween(clock, "AAA0", "AAA0BBB,0/0,J365/25"), 1);
 }
 
 TEST(MachineClock, CountsTheSecondsOfTheDay) {

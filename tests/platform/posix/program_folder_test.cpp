@@ -50,6 +50,13 @@ TEST_F(ProgramFolderTest, IsBesideTheProgramWhereThatCanBeWritten) {
   EXPECT_FALSE(fs::exists(data())) << "nothing is made that isn't wanted";
 }
 
+TEST_F(ProgramFolderTest, IsNeverWhereProgramsAreInstalledForEverybody) {
+  ProgramFolder::Places installed = places();
+  installed.beside = "/usr/bin";  // where root may write
+  EXPECT_EQ(chooseProgramFolder(installed).path, data() / "gsm-application");
+  EXPECT_TRUE(chooseProgramFolder(installed).isUsers);
+}
+
 TEST_F(ProgramFolderTest, IsElseTheUsersOwnWhichIsMade) {
   if (!isRoot()) GTEST_SKIP() << "needs root to take rights away";
   const ProgramFolder chosen = choiceOfStranger(places());
