@@ -45,7 +45,7 @@ void Form6::Form_Load() try {
 
 void Form6::turnPage(int tab) try {
   struct Page {
-    const Frame& frame;
+    Frame& frame;
     const char* status;  // none: stays as it is
     void (Form6::*fill)();
   };
