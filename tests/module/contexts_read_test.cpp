@@ -44,10 +44,17 @@ TEST_F(ContextsRead, ShowsAContextInItsRow) {
 }
 
 TEST_F(ContextsRead, TheBoxesOfTheGridTakeNoInput) {
-  load(information(kInternet));
-  EXPECT_FALSE(form().Text2.userType("x"));
-  EXPECT_FALSE(form().Text4.userErase());
-  EXPECT_EQ(grid(), Texts{"1|IP|internet"});
+  load(lines({kInternet, "+CGDCONT: 2,\"PPP\",\"b\",,0,0", "+CGDCONT: 3,\"IP\",\"c\",,0,0",
+              "+CGDCONT: 4,\"PPP\",\"d\",,0,0"}));
+  const Texts shown = grid();
+  ASSERT_EQ(shown.size(), 4U);
+  for (Control* control : form().controls()) {
+    auto* box = dynamic_cast<TextBox*>(control);
+    if (box == nullptr || box == &form().Text1) continue;
+    EXPECT_FALSE(box->userType("x")) << box->name();
+    EXPECT_FALSE(box->userErase()) << box->name();
+  }
+  EXPECT_EQ(grid(), shown);
 }
 
 struct GridRow {
@@ -116,6 +123,11 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(ContextsRead, SeveralLinesMayBeSetApart) {
   load("\r\n" + std::string(kInternet) + "\r\n\r\n+CGDCONT: 2,\"IP\",\"b\",,0,0\r\n\r\nOK\r\n");
   EXPECT_EQ(grid(), (Texts{"1|IP|internet", "2|IP|b"}));
+}
+
+TEST_F(ContextsRead, TheSecondsEmptyFieldMayStandRightBeforeTheOk) {
+  load("\r\n+CGDCONT: 2,\"IP\",\"b\",,OK\r\n");
+  EXPECT_EQ(grid(), Texts{"2|IP|b"});
 }
 
 // The first context is looked for in the whole reply: it needs no "OK".

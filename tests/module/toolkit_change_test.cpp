@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/module/toolkit_test.h"
+#include "tests/support/property_watch.h"
 
 namespace gsm {
 namespace {
@@ -317,6 +318,18 @@ TEST_F(ToolkitChange, ClosingItSendsNothingAndBringsTheMenuBack) {
   EXPECT_FALSE(form1().Visible.peek());
   EXPECT_EQ(sent(), Texts{});
   expectAtRest();
+}
+
+TEST_F(ToolkitChange, ClosingItTakesTheNoticeDownFirst) {
+  reply("AT+STSF=1", kOk);
+  press(form().Command1);
+  std::vector<bool> wanted;  // as the window went off the screen, and as it was unloaded
+  const PropertyWatch watch(form(), [&](PropertyId property) {
+    if (property == PropertyId::Visible) wanted.push_back(wantsReset());
+  });
+  closeWindow();
+  ASSERT_FALSE(wanted.empty());
+  EXPECT_FALSE(wanted.front());
 }
 
 TEST_F(ToolkitChange, OpenedAgainReadsAgain) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/module/toolkit_test.h"
+#include "tests/support/property_watch.h"
 
 namespace gsm {
 namespace {
@@ -197,6 +198,16 @@ TEST_F(ToolkitRead, RefreshReadsAnewUnderTheWordsOfTheWait) {
   EXPECT_EQ(mode(), "Activate");
   EXPECT_EQ(form().Combo1.ListCount(), 3);
   expectAtRest();
+}
+
+TEST_F(ToolkitRead, ARefreshTakesTheOldStatusDownBeforeItSaysThatItChecks) {
+  loadActive();
+  Texts words;
+  const PropertyWatch watch(form().Label2, [&](PropertyId property) {
+    if (property == PropertyId::Caption) words.push_back(form().Label2.Caption.peek());
+  });
+  click(form().Command2);
+  EXPECT_EQ(words, (Texts{"", "Plz Wait.Checking Current Values"}));
 }
 
 TEST_F(ToolkitRead, ARefusedRefreshIsOnView) {
