@@ -187,6 +187,10 @@ TEST(PduReading, TakesEveryFormOfASubmission) {
     EXPECT_EQ(message->wantsReport, wantsReport) << digits;
     EXPECT_FALSE(message->namesCentre) << digits;
   }
+  EXPECT_EQ(read("0001001481103254769810325476980000"
+                 "0149")
+                ->number,
+            "01234567890123456789");
   const auto message = read("0001000081000000");
   ASSERT_TRUE(message);
   EXPECT_EQ(message->number, "");
@@ -232,7 +236,7 @@ TEST(PduReading, RefusesWhatIsNoSubmissionOrNotPlainText) {
       "0149",  // a digit that no keypad has
       "0001000281F00000"
       "0149",  // a digit missing
-      "00010015811032547698103254769810F10000"
+      "000100158110325476981032547698F10000"
       "0149",  // 21 digits
       "0001000281100000"
       "0249",  // fewer octets than codes
