@@ -147,14 +147,14 @@ struct ChangeRow {
 
 class AnswerChange : public AnswerPage, public ::testing::WithParamInterface<ChangeRow> {
  protected:
-  void choose(Chosen chosen) {
+  void pick(Chosen chosen) {
     if (chosen == Chosen::disable) click(form().Option3);
     if (chosen == Chosen::enable) click(form().Option4);
   }
 };
 
 TEST_P(AnswerChange, IsSentOrRefused) {
-  choose(GetParam().chosen);
+  pick(GetParam().chosen);
   setRings(GetParam().rings);
   leaveInTranscript("old");
   press(form().Command5);
@@ -264,7 +264,7 @@ TEST_F(AnswerPage, AChangeWaitsASecond) {
 TEST_F(AnswerPage, AChangeNeedsNoEcho) {
   replyWithoutEcho("ATS0=3", kOk);
   click(form().Option4);
-  choose(form().Combo3, 2);
+  pick(form().Combo3, 2);
   press(form().Command5);
   EXPECT_EQ(status(), "Changes SuccessFul.AutoAnswer Enabled");
 }

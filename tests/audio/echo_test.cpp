@@ -26,7 +26,7 @@ class Echo : public AudioTest {
     return {&window.Slider3, &window.Slider4, &window.Slider5, &window.Slider6,
             &window.Slider7, &window.Slider8, &window.Slider9};
   }
-  void choose(const std::string& mode, const std::string& algorithm) {
+  void pick(const std::string& mode, const std::string& algorithm) {
     fill(form().Combo1, mode);
     fill(form().Combo2, algorithm);
   }
@@ -66,7 +66,7 @@ TEST_F(Echo, SwitchedToTheOtherAlgorithmIsSentWithFiveFields) {
   reply("AT+ECHO?", information("+ECHO: 1,1,15,3,10,7"));
   turnTo(toneAndEcho);
   sent();
-  AudioTest::choose(form().Combo2, 1);
+  AudioTest::pick(form().Combo2, 1);
   EXPECT_EQ(form().Combo2.Text.peek(), "3");
   EXPECT_EQ(frames(), Texts{"Frame7"});
   press(form().Command3);
@@ -113,7 +113,7 @@ TEST_P(EchoFrame, GoesWithTheAlgorithmThatIsChosen) {
       form().Frame6.Visible = before;
       form().Frame7.Visible = before;
     });
-    AudioTest::choose(form().Combo2, GetParam().item);
+    AudioTest::pick(form().Combo2, GetParam().item);
     EXPECT_EQ(frames(), GetParam().frames);
   }
   EXPECT_EQ(sent(), Texts{});
@@ -126,21 +126,21 @@ INSTANTIATE_TEST_SUITE_P(Of, EchoFrame,
                          RowName());
 
 TEST_F(Echo, TypingAnAlgorithmChangesNoFrame) {
-  AudioTest::choose(form().Combo2, 0);
-  choose("0", "3");
+  AudioTest::pick(form().Combo2, 0);
+  pick("0", "3");
   EXPECT_EQ(frames(), Texts{"Frame6"});
 }
 
 TEST_F(Echo, AnAlgorithmThatIsNoneOfTheTwoChangesNoFrame) {
   assign([this] { form().Combo2.AddItem("2"); });
-  AudioTest::choose(form().Combo2, 2);
+  AudioTest::pick(form().Combo2, 2);
   EXPECT_EQ(frames(), (Texts{"Frame6", "Frame7"}));
   expectAtRest();
 }
 
 TEST_F(Echo, AnAlgorithmThatIsNoNumberEndsTheProgram) {
   assign([this] { form().Combo2.AddItem("x"); });
-  AudioTest::choose(form().Combo2, 2);
+  AudioTest::pick(form().Combo2, 2);
   settle();
   EXPECT_EQ(boxes(), Texts{"Type mismatch"});
   EXPECT_TRUE(ended());
@@ -157,7 +157,7 @@ struct SentRow {
 class EchoSent : public Echo, public ::testing::WithParamInterface<SentRow> {};
 
 TEST_P(EchoSent, IsWhatTheWindowShows) {
-  choose(GetParam().mode, GetParam().algorithm);
+  pick(GetParam().mode, GetParam().algorithm);
   assign([this] {
     for (std::size_t i = 0; i < sliders().size(); ++i) {
       sliders()[i]->Value = GetParam().sliders[i];
@@ -207,7 +207,7 @@ struct OutcomeRow {
 class EchoOutcome : public Echo, public ::testing::WithParamInterface<OutcomeRow> {};
 
 TEST_P(EchoOutcome, IsTheDispatchersToTell) {
-  choose("0", "1");
+  pick("0", "1");
   reply("AT+ECHO=0,1,0,0,0,0", GetParam().reply);
   press(form().Command3);
   EXPECT_EQ(status(), GetParam().status);
@@ -224,7 +224,7 @@ INSTANTIATE_TEST_SUITE_P(
     RowName());
 
 TEST_F(Echo, OfAModemWithoutEchoGetsNoOutcome) {
-  choose("0", "1");
+  pick("0", "1");
   replyWithoutEcho("AT+ECHO=0,1,0,0,0,0", kOk);
   press(form().Command3);
   EXPECT_EQ(status(), "before");
@@ -232,7 +232,7 @@ TEST_F(Echo, OfAModemWithoutEchoGetsNoOutcome) {
 }
 
 TEST_F(Echo, OfAClosedPortIsNotSent) {
-  choose("0", "1");
+  pick("0", "1");
   closePort();
   press(form().Command3);
   EXPECT_EQ(status(), "before");

@@ -24,8 +24,8 @@ TEST_F(Melody, ItsPageListsCallTypesAndMelodies) {
 }
 
 TEST_F(Melody, ItsPageForgetsWhatWasChosen) {
-  choose(form().Combo4, 2);
-  choose(form().Combo5, 3);
+  pick(form().Combo4, 2);
+  pick(form().Combo5, 3);
   move(form().Slider11, 9);
   turnTo(melodies);
   EXPECT_EQ(form().Combo4.Text.peek(), "");
@@ -49,7 +49,7 @@ class MelodySent : public Melody, public ::testing::WithParamInterface<SentRow> 
 TEST_P(MelodySent, IsTheCallTypesPlaceTheVolumeAndTheMelodysText) {
   const SentRow& row = GetParam();
   if (row.callType >= 0) {
-    choose(form().Combo4, row.callType);
+    pick(form().Combo4, row.callType);
   } else {
     fill(form().Combo4, row.typed);
   }
@@ -78,8 +78,8 @@ INSTANTIATE_TEST_SUITE_P(
     RowName());
 
 TEST_F(Melody, IsChosenFromTheLists) {
-  choose(form().Combo4, 3);
-  choose(form().Combo5, 10);
+  pick(form().Combo4, 3);
+  pick(form().Combo5, 10);
   press(form().Command7);
   EXPECT_EQ(sent(), Texts{"AT+CRMP= 3,0,0,10\r"});
 }
@@ -93,8 +93,8 @@ struct OutcomeRow {
 class MelodyOutcome : public Melody, public ::testing::WithParamInterface<OutcomeRow> {};
 
 TEST_P(MelodyOutcome, IsShownAfterASecondAndClearsTheTranscript) {
-  choose(form().Combo4, 0);
-  choose(form().Combo5, 1);
+  pick(form().Combo4, 0);
+  pick(form().Combo5, 1);
   reply("AT+CRMP= 0,0,0,1", GetParam().reply);
   leaveInTranscript("\r\nOK\r\nERROR");
   click(form().Command7);
@@ -119,16 +119,16 @@ INSTANTIATE_TEST_SUITE_P(
     RowName());
 
 TEST_F(Melody, WaitsASecond) {
-  choose(form().Combo4, 0);
-  choose(form().Combo5, 1);
+  pick(form().Combo4, 0);
+  pick(form().Combo5, 1);
   click(form().Command7);
   run(1.02);
   EXPECT_EQ(waiting(), 0);
 }
 
 TEST_F(Melody, OfAClosedPortIsNotSentAndItsStatusIsEmpty) {
-  choose(form().Combo4, 0);
-  choose(form().Combo5, 1);
+  pick(form().Combo4, 0);
+  pick(form().Combo5, 1);
   closePort();
   press(form().Command7);
   EXPECT_EQ(status(), "");

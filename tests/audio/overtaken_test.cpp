@@ -142,7 +142,7 @@ TEST_F(OvertakenAudio, ClosingTheWindowInAChangeOfTheAnswerTakesItsReply) {
   turnTo(answerAndDtmf);
   reply("ATS0=1", kOk);
   click(form().Option4);
-  choose(form().Combo3, 0);
+  pick(form().Combo3, 0);
   sent();
   click(form().Command5);
   run(0.5);
@@ -235,7 +235,7 @@ TEST_F(OvertakenAudio, APollInAChangeMakesASuccessOfIt) {
   turnTo(answerAndDtmf);
   reply("ATS0=1", kError);
   click(form().Option4);
-  choose(form().Combo3, 0);
+  pick(form().Combo3, 0);
   pollInTheMiddle();
   click(form().Command5);
   run(4);

@@ -15,7 +15,7 @@ class ContextsChange : public ContextsTest {
   void fillIn(int number, int type, const std::string& name) {
     if (number >= 0) pick(form().Combo1, number);
     if (type >= 0) pick(form().Combo2, type);
-    this->type(form().Text1, name);
+    this->fill(form().Text1, name);
   }
 };
 

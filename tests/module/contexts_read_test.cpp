@@ -223,7 +223,7 @@ TEST_F(ContextsRead, RefreshEmptiesTheGridAndReadsAnew) {
   load(lines({kInternet, "+CGDCONT: 4,\"PPP\",\"d\",,0,0"}));
   pick(form().Combo1, 2);
   pick(form().Combo2, 1);
-  type(form().Text1, "kept");
+  fill(form().Text1, "kept");
   reply("AT+CGDCONT?", information("+CGDCONT: 2,\"IP\",\"b\",,0,0"));
   click(form().Command2);
   EXPECT_EQ(grid(), Texts{});

@@ -34,7 +34,7 @@ TEST_F(ToolkitChange, ChoosingConfigureOpensAnEmptyConfiguration) {
 TEST_F(ToolkitChange, ChoosingAnotherModeClosesItAndForgetsWhatWasTyped) {
   for (const Mode other : {activate, deActivate}) {
     pick(form().Combo1, configure);
-    type(form().Text1, "160060C01F");
+    fill(form().Text1, "160060C01F");
     inPanel([this] { form().Label6.Visible = true; });
     run(0);
     pick(form().Combo1, other);
@@ -46,7 +46,7 @@ TEST_F(ToolkitChange, ChoosingAnotherModeClosesItAndForgetsWhatWasTyped) {
 
 TEST_F(ToolkitChange, TheConfigurationTakesTwentyCharactersOfAnyKind) {
   pick(form().Combo1, configure);
-  type(form().Text1, "xyz 60060C01F1600\"60C01F");
+  fill(form().Text1, "xyz 60060C01F1600\"60C01F");
   EXPECT_EQ(form().Text1.Text.peek(), "xyz 60060C01F1600\"60");
   press(form().Command1);
   EXPECT_EQ(sent(), Texts{"AT+STSF=2,\"xyz 60060C01F1600\"60\"\r"});
@@ -55,7 +55,7 @@ TEST_F(ToolkitChange, TheConfigurationTakesTwentyCharactersOfAnyKind) {
 TEST_F(ToolkitChange, ConfigureSendsItsCodeWithTheQuotedText) {
   reply("AT+STSF=2,\"160060C01F\"", kOk);
   pick(form().Combo1, configure);
-  type(form().Text1, "160060C01F");
+  fill(form().Text1, "160060C01F");
   leaveInTranscript("ERROR");
   click(form().Command1);
   EXPECT_EQ(status(), (Texts{"", "(TIMEOUT: 3)", "(Automatic Response  Activated)"}));
@@ -119,7 +119,7 @@ TEST_F(ToolkitChange, EachModeIsSentByItsPlace) {
   press(form().Command1);
   EXPECT_EQ(sent(), Texts{"AT+STSF=0\r"});
   pick(form().Combo1, configure);
-  type(form().Text1, "1");
+  fill(form().Text1, "1");
   pick(form().Combo1, activate);
   press(form().Command1);
   EXPECT_EQ(sent(), Texts{"AT+STSF=1\r"});
@@ -137,7 +137,7 @@ TEST_F(ToolkitChange, ATypedModeHasNoCode) {
 
 TEST_F(ToolkitChange, AnyOtherTypedTextSendsNothingAndSaysNothing) {
   pick(form().Combo1, configure);
-  type(form().Text1, "1F");
+  fill(form().Text1, "1F");
   for (const char* text : {"activate", " Activate", "1"}) {
     typeMode(text);
     leaveInTranscript("\r\nOK\r\n");
@@ -231,7 +231,7 @@ TEST_F(ToolkitChange, AnsweredByNothingItLeavesTheNoticeAlone) {
 
 TEST_F(ToolkitChange, WithoutAPortEndsSilently) {
   pick(form().Combo1, configure);
-  type(form().Text1, "1F");
+  fill(form().Text1, "1F");
   closePort();
   press(form().Command1);
   EXPECT_EQ(line(), "");
@@ -244,7 +244,7 @@ TEST_F(ToolkitChange, MidnightEndsItWhereItIs) {
   startWithOpenPort({2026, 3, 1, 23, 59, 0});
   loadActive();
   pick(form().Combo1, configure);
-  type(form().Text1, "1F");
+  fill(form().Text1, "1F");
   reply("AT+STSF=2,\"1F\"", kOk);
   run(59.5 - now());
   click(form().Command1);

@@ -183,7 +183,7 @@ TEST_F(ToolkitRead, WithoutAPortComesUpWithItsList) {
 TEST_F(ToolkitRead, RefreshReadsAnewUnderTheWordsOfTheWait) {
   loadActive();
   pick(form().Combo1, configure);
-  type(form().Text1, "160060C01F");
+  fill(form().Text1, "160060C01F");
   inPanel([this] { form().Label6.Visible = true; });
   run(0);
   click(form().Command2);
