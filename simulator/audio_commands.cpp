@@ -10,7 +10,7 @@ namespace gsm::simulator {
 
 namespace {
 
-// A gain goes in steps, and the modem tells the lower edge of the step that the value lies in.
+// A gain goes in steps, and the modem reports the lower edge of the step that the value lies in.
 constexpr int kSpeakerStep = 16;
 constexpr int kMicrophoneStep = 32;
 constexpr int kHighestEdge = 224;
@@ -29,7 +29,7 @@ constexpr CommandRow gain(std::string_view name) {
           .test = listNumbers<member>};
 }
 
-// The two algorithms share the mode and their own number, and differ in what stands behind.
+// The two algorithms share the mode and their own number, and differ in what stands after.
 template <int Profile::*... members>
 struct EchoValues {
   static constexpr CommandHandler kQuery =

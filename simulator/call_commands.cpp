@@ -5,7 +5,7 @@ namespace gsm::simulator {
 
 namespace {
 
-// The second value tells that the network offers the service.
+// The second value says that the network offers the service.
 Reply queryCallerId(ModemState& state, const Command& command) {
   return ok(headed(command, std::to_string(state.settings.profile.callerId) + ",1"));
 }

@@ -10,7 +10,7 @@ namespace gsm::simulator {
 
 namespace {
 
-// The modem's own locks, in the order in which a query for all of them tells them. Those for parts
+// The modem's own locks, in the order in which a query for all of them shows them. Those for parts
 // of a network can't be used.
 enum class Lock { kPhone, kCard, kNetwork, kUnused };
 struct LockName {
@@ -72,7 +72,7 @@ Reply answerTo(ModemState& state, CodeCheck check) {
   return reply;
 }
 
-// One line, and no blank behind the colon.
+// One line, and no blank after the colon.
 Reply queryLocks(ModemState& state, const Command& command) {
   if (const auto trouble = simTrouble(state.sim.status())) return error(*trouble);
   std::string list;

@@ -86,7 +86,7 @@ void Messages::tellReport(const Sent& sent, int status) {
   deliver(kWays[settings_.profile.reportRoute], reports, "+CDS", std::move(report));
 }
 
-// A notice of what has been kept has the name of the other one with an I behind it.
+// A notice of what has been kept has the name of the other one with an I after it.
 bool Messages::deliver(Way way, MessageStore& memory, std::string_view notice, Message message) {
   if (way == Way::kDrop) return true;
   const std::string name(notice);

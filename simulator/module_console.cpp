@@ -52,7 +52,7 @@ std::string changeCell(ModemState& state, std::string_view) {
 constexpr ConsoleRow kRows[] = {
     {"pin", "N set|reset", "what is wired to pin 0 to 7 sets it or resets it", setPin},
     {"power", "on", "switch on again what AT+CPOF switched off", setPower},
-    {"battery", "N", "what AT+CIND? tells: 0 empty to 5 full", setBattery},
+    {"battery", "N", "what AT+CIND? reports: 0 empty to 5 full", setBattery},
     {"voicemail", "on|off", "a message waits in the voice mail, or none does", setVoiceMail},
     {"cell", "", "move to the neighbouring cell", changeCell},
 };

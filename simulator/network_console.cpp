@@ -33,8 +33,8 @@ std::string setRegistration(ModemState& state, std::string_view operand) {
 }
 
 constexpr ConsoleRow kRows[] = {
-    {"signal", "STRENGTH [ERROR-RATE]", "what AT+CSQ tells: 0 to 31, 99 for unknown", setSignal},
-    {"register", "STATUS", "what AT+CREG? tells: 0 no, 1 home, 2 searching, 3 denied, 5 roaming",
+    {"signal", "STRENGTH [ERROR-RATE]", "what AT+CSQ reports: 0 to 31, 99 for unknown", setSignal},
+    {"register", "STATUS", "what AT+CREG? reports: 0 no, 1 home, 2 searching, 3 denied, 5 roaming",
      setRegistration},
 };
 

@@ -14,7 +14,7 @@ namespace gsm {
 /// - `insteadOf`: the name of a widget in whose place this one stands: one or the other is there.
 /// - `whileEmpty`: names of labels, with blanks between. Shown while all of them are empty and no
 ///   handler runs.
-/// - `tellsOfDevice`: true for what tells that the port's device has gone, by the property `gone`
+/// - `tellsOfDevice`: true for what shows that the port's device has gone, by the property `gone`
 ///   (for the style) and its tool tip.
 class Decorations : public QObject {
  public:
