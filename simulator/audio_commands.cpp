@@ -96,7 +96,7 @@ Reply listMelodies(ModemState&, const Command& command) {
   return ok(headed(command, "(0-3),(0-15),0,(0-10)"));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kAudioCommands[] = {
     gain<&Profile::speakerGain, kSpeakerStep>("+VGR"),
     gain<&Profile::microphoneGain, kMicrophoneStep>("+VGT"),
     {.name = "+ECHO", .query = queryEcho, .set = setEcho, .test = Algorithm1::kTest},
@@ -107,6 +107,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows audioCommands() { return kRows; }
+CommandRows audioCommands() { return kAudioCommands; }
 
 }  // namespace gsm::simulator

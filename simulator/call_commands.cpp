@@ -10,7 +10,7 @@ Reply queryCallerId(ModemState& state, const Command& command) {
   return ok(headed(command, std::to_string(state.settings.profile.callerId) + ",1"));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kCallCommands[] = {
     {.name = "+CLIP",
      .query = queryCallerId,
      .set = setNumbers<&Profile::callerId>,
@@ -21,6 +21,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows callCommands() { return kRows; }
+CommandRows callCommands() { return kCallCommands; }
 
 }  // namespace gsm::simulator

@@ -91,7 +91,7 @@ Reply listTones(ModemState&, const Command& command) {
   return ok(headed(command, "(0-9,*,#,A-D)"));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kDialCommands[] = {
     {.name = "D", .execute = dial},
     {.name = "A", .execute = answer},
     {.name = "H", .execute = hangUp},
@@ -101,6 +101,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows dialCommands() { return kRows; }
+CommandRows dialCommands() { return kDialCommands; }
 
 }  // namespace gsm::simulator

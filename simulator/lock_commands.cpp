@@ -158,13 +158,13 @@ Reply listPasswords(ModemState&, const Command& command) {
                    "(\"IR\",4),(\"AB\",4),(\"AG\",4),(\"AC\",4)"));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kLockCommands[] = {
     {.name = "+CLCK", .query = queryLocks, .set = setLock, .test = listFacilities},
     {.name = "+CPWD", .set = setPassword, .test = listPasswords},
 };
 
 }  // namespace
 
-CommandRows lockCommands() { return kRows; }
+CommandRows lockCommands() { return kLockCommands; }
 
 }  // namespace gsm::simulator

@@ -136,7 +136,7 @@ Reply listDeletions(ModemState& state, const Command& command) {
                                 kDeletions.listing()));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kMessageStoreCommands[] = {
     {.name = "+CPMS",
      .query = withCard<queryMemories>,
      .set = withCard<selectMemories>,
@@ -151,6 +151,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows messageStoreCommands() { return kRows; }
+CommandRows messageStoreCommands() { return kMessageStoreCommands; }
 
 }  // namespace gsm::simulator

@@ -49,7 +49,7 @@ std::string changeCell(ModemState& state, std::string_view) {
   return {};
 }
 
-constexpr ConsoleRow kRows[] = {
+constexpr ConsoleRow kModuleConsole[] = {
     {"pin", "N set|reset", "what is wired to pin 0 to 7 sets it or resets it", setPin},
     {"power", "on", "switch on again what AT+CPOF switched off", setPower},
     {"battery", "N", "what AT+CIND? reports: 0 empty to 5 full", setBattery},
@@ -59,6 +59,6 @@ constexpr ConsoleRow kRows[] = {
 
 }  // namespace
 
-ConsoleRows moduleConsole() { return kRows; }
+ConsoleRows moduleConsole() { return kModuleConsole; }
 
 }  // namespace gsm::simulator
