@@ -23,7 +23,7 @@ namespace {
 
 constexpr int kRows = 10'000;
 
-// The entries' numbers are 0140000001 to 0140010000; the name tells the location.
+// The entries' numbers are 0140000001 to 0140010000; the name holds the location.
 std::string numberAt(int location) { return "0" + std::to_string(140'000'000 + location); }
 std::string nameAt(int location) { return "NAME " + std::to_string(location); }
 

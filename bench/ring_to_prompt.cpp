@@ -1,7 +1,7 @@
 // ring-to-prompt [RINGS]: how long it takes in real time from somebody's call, as the simulated
 // modem's console is told of it, to the first paint of the prompt with the caller's name; and how
 // much of that is beyond what is demanded: the bytes' time on the line and the two seconds that the
-// routing waits behind the last of them.
+// routing waits after the last of them.
 
 #include <QApplication>
 #include <QEvent>

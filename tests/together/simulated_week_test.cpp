@@ -1,5 +1,5 @@
 // A week of the phone book, calls, messages, network services and locks, against the rules of their
-// book-keeping and what the modem's console tells.
+// book-keeping and what the modem's console reports.
 
 #include <gtest/gtest.h>
 
