@@ -2,13 +2,20 @@
 
 #include <cmath>
 
+#include "audio/form6.h"
 #include "modem/form10.h"
 #include "modem/form11.h"
+#include "module/form16.h"
+#include "module/form17.h"
+#include "module/form18.h"
+#include "module/form19.h"
 #include "panel/form1.h"
 #include "phonebook/form3.h"
 #include "platform/sqlite/phone_book_file.h"
 #include "security/form9.h"
 #include "services/form12.h"
+#include "settings/form14.h"
+#include "settings/form15.h"
 #include "simulator/phone_book_text.h"
 #include "sms/form8.h"
 
@@ -110,6 +117,22 @@ std::string SimulatedWeek::doSomething() {
       {"joins a user group", &SimulatedWeek::joinUserGroup, 1},
       {"turns a lock", &SimulatedWeek::turnLock, 4},
       {"changes a password", &SimulatedWeek::changePassword, 2},
+      {"tunes the gains", &SimulatedWeek::tuneGains, 2},
+      {"cancels the echo", &SimulatedWeek::cancelEcho, 2},
+      {"sets the side tone", &SimulatedWeek::setSideTone, 1},
+      {"lets the modem answer", &SimulatedWeek::letModemAnswer, 2},
+      {"sets the tones' length", &SimulatedWeek::setToneLength, 2},
+      {"sets the line", &SimulatedWeek::setLine, 3},
+      {"sets the bearer", &SimulatedWeek::setBearer, 2},
+      {"sets the compression", &SimulatedWeek::setCompression, 1},
+      {"sets the fax", &SimulatedWeek::setFax, 1},
+      {"checks the indicators", &SimulatedWeek::checkIndicators, 3},
+      {"dumps the cells", &SimulatedWeek::dumpCells, 2},
+      {"lets indications come", &SimulatedWeek::letIndicationsCome, 2},
+      {"switches the voice mail", &SimulatedWeek::switchVoiceMail, 2},
+      {"reads a pin", &SimulatedWeek::readPin, 2},
+      {"sets the toolkit", &SimulatedWeek::setToolkit, 2},
+      {"defines a context", &SimulatedWeek::defineContext, 3},
   };
   std::size_t sum = 0;
   for (const Choice& choice : choices) sum += choice.weight;
@@ -146,22 +169,33 @@ void SimulatedWeek::compareWindows() {
   EXPECT_FALSE(panel().form11.Visible.peek());
 }
 
+// The audio window saves the modem's profile before it goes; behind the module's windows their menu
+// comes back.
 void SimulatedWeek::showPanel() {
-  for (Window* window : std::initializer_list<Window*>{&messages(), &services(), &locks()}) {
+  for (Window* window : std::initializer_list<Window*>{&messages(), &services(), &locks(), &audio(),
+                                                       &data(), &line(), &maker(), &toolkit(),
+                                                       &contexts(), &panel().form16}) {
     if (!window->Visible.peek()) continue;
     world().time().after(Duration::zero(), [window] { window->userClose(); });
-    run(0);
+    settle();
     EXPECT_FALSE(window->isLoaded()) << window->name();
   }
   EXPECT_TRUE(form1().Visible.peek());
 }
 
-void SimulatedWeek::type(TextBox& box, const std::string& text) {
-  world().time().after(Duration::zero(), [&box, text] {
-    box.userErase();
-    box.userType(text);
-  });
+void SimulatedWeek::pick(ListControl& list, int item) {
+  world().time().after(Duration::zero(), [&list, item] { list.userSelect(item); });
   run(0);
+}
+
+void SimulatedWeek::move(Slider& slider, int value) {
+  world().time().after(Duration::zero(), [&slider, value] { slider.userMove(value); });
+  run(0);
+}
+
+void SimulatedWeek::clearTranscript() {
+  inPanel([this] { form1().Text1.clear(); });
+  settle();
 }
 
 void SimulatedWeek::expectBox(const std::string& text) {

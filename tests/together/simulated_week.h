@@ -2,12 +2,15 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
 #include <random>
 #include <string>
 #include <vector>
 
+#include "controls/list_controls.h"
+#include "controls/slider.h"
 #include "panel/panel.h"
 #include "simulator/host/simulated_modem.h"
 #include "tests/support/phone_book_test.h"
@@ -118,12 +121,70 @@ class SimulatedWeek : public PhoneBookTest {
   void changePassword();
   Form9& locks() { return panel().form9; }
 
+  // What is heard; `simulated_week_audio.cpp`.
+  void openAudio(int tab);
+  void tuneGains();
+  void cancelEcho();
+  void setSideTone();
+  void compareAutoAnswer(int rings);
+  void switchAutoAnswer(const std::string& rings);
+  void letModemAnswer();
+  void setToneLength();
+  Form6& audio() { return panel().form6; }
+
+  // The modem's line; `simulated_week_line.cpp`.
+  void openLine();
+  void compareLine();
+  void saveLine();
+  void followModem();
+  void setLine();
+  Form15& line() { return panel().form15; }
+
+  // Data calls and fax; `simulated_week_data.cpp`.
+  void openData(CommandButton Form14::*page);
+  void setBearer();
+  void setCompression();
+  void setFax();
+  Form14& data() { return panel().form14; }
+
+  // The module's own features; `simulated_week_features.cpp`.
+  void openFeature(CommandButton Form16::*button, Window& window);
+  void openMakersPage(CommandButton Form17::*page);
+  std::string indicatorsTold();
+  void checkIndicators();
+  void dumpCells();
+  void letIndicationsCome();
+  void switchVoiceMail();
+  void readPin();
+  void setToolkit();
+  void defineContext();
+  Form17& maker() { return panel().form17; }
+  Form18& toolkit() { return panel().form18; }
+  Form19& contexts() { return panel().form19; }
+
   // The user's hands and the modem's console.
-  void type(TextBox& box, const std::string& text);
+  template <class Editable>
+  void type(Editable& box, const std::string& text) {
+    world().time().after(Duration::zero(), [&box, text] {
+      box.userErase();
+      box.userType(text);
+    });
+    run(0);
+  }
   void needCalls();
   /// Leaves the window that stands in the main window's place.
   void showPanel();
   void expectBox(const std::string& text);
+  /// Clicks, and lets what comes of it end.
+  template <class Clickable>
+  void press(Clickable& control) {
+    click(control);
+    settle();
+  }
+  void pick(ListControl& list, int item);
+  void move(Slider& slider, int value);
+  /// What an interrupted handler leaves behind would be another one's.
+  void clearTranscript();
   /// Follows a call window that a call has loaded unseen.
   void followLoading();
   std::string tell(const std::string& line) { return modem_->console(line); }
@@ -141,6 +202,42 @@ class SimulatedWeek : public PhoneBookTest {
 
   double timeOfDay() const;
 
+  // What the modem holds since it left the factory, as it has been told by the windows.
+  struct Sound {
+    int speakerGain = 128;
+    int microphoneGain = 32;
+    int echoMode = 0;
+    int echoAlgorithm = 1;
+    std::array<int, 4> echoOf1 = {0, 6, 10, 7};
+    std::array<int, 3> echoOf3 = {30, 8000, 256};
+    int sideTone = 1;
+    int sideToneLevel = 0;
+    int toneLength = 0;
+  };
+  struct Line {
+    std::string rate = "9600";
+    int format = 3;
+    int parity = 4;
+    int flowToHost = 2;
+    int flowToModem = 2;
+    int carrier = 1;
+    int terminalReady = 1;
+    bool seen = false;  // the start-up has left a choice in the window that is opened first
+  };
+  struct Bearer {
+    std::size_t speed = 0;  // these two by their places in the window's lists
+    std::size_t element = 1;
+    bool compresses = true;
+    bool corrects = false;
+    std::size_t faxClass = 0;
+  };
+  struct Module {
+    bool announcesMail = false;
+    bool isActive = false;       // the card's toolkit
+    bool hasChosenDump = false;  // of the cells
+    std::map<int, std::string> contexts;
+  };
+
   std::mt19937 random_;
   std::unique_ptr<SimulatedModem> modem_;
   BookModel model_{{}};
@@ -149,6 +246,10 @@ class SimulatedWeek : public PhoneBookTest {
   bool reports_ = false;  // of messages, switched on
   std::array<std::string, 3> passwords_ = {"12345678", "1234", "87654321"};
   std::unique_ptr<PropertyWatch> noteWatch_;
+  Sound sound_;
+  Line line_;
+  Bearer bearer_;
+  Module module_;
 };
 
 }  // namespace gsm

@@ -1,5 +1,5 @@
-// A week of the phone book, calls, messages, network services and locks, against the rules of their
-// book-keeping and what the modem's console reports.
+// A week of all windows, against the rules of the phone book's book-keeping, what the modem has been
+// told before and what its console reports.
 
 #include <gtest/gtest.h>
 
