@@ -146,7 +146,7 @@ TEST_F(Echo, AnAlgorithmThatIsNoNumberEndsTheProgram) {
   EXPECT_TRUE(ended());
 }
 
-struct SentRow {
+struct SentEchoRow {
   std::string name;
   std::string mode;
   std::string algorithm;
@@ -154,7 +154,7 @@ struct SentRow {
   Texts sent;
 };
 
-class EchoSent : public Echo, public ::testing::WithParamInterface<SentRow> {};
+class EchoSent : public Echo, public ::testing::WithParamInterface<SentEchoRow> {};
 
 TEST_P(EchoSent, IsWhatTheWindowShows) {
   pick(GetParam().mode, GetParam().algorithm);
@@ -180,31 +180,31 @@ const std::vector<int> kBetween = {1, 2, 3, 4, 5, 6, 65};
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, EchoSent,
-    ::testing::Values(SentRow{"FirstAtItsGreatest", "1", "1", kFar, {"AT+ECHO=1,1,15,3,31,31\r"}},
-                      SentRow{"ThirdAtItsGreatest", "1", "3", kFar, {"AT+ECHO=1,3,63,32767,256\r"}},
-                      SentRow{"FirstAtItsLeast", "0", "1", kNear, {"AT+ECHO=0,1,0,0,0,0\r"}},
-                      SentRow{"ThirdAtItsLeast", "0", "3", kNear, {"AT+ECHO=0,3,0,0,64\r"}},
-                      SentRow{"FirstInItsOrder", "0", "1", kBetween, {"AT+ECHO=0,1,1,2,3,4\r"}},
-                      SentRow{"ThirdInItsOrder", "0", "3", kBetween, {"AT+ECHO=0,3,5,6,65\r"}},
-                      SentRow{"WithoutAMode", "", "1", kNear, {"AT+ECHO=,1,0,0,0,0\r"}},
-                      SentRow{"WithoutAModeOfTheThird", "", "3", kNear, {"AT+ECHO=,3,0,0,64\r"}},
-                      SentRow{"AsTyped", "off", " 1 ", kNear, {"AT+ECHO=off, 1 ,0,0,0,0\r"}},
-                      SentRow{
-                          "OfANumberThatIsTheSame", "0", "3.0", kNear, {"AT+ECHO=0,3.0,0,0,64\r"}},
-                      SentRow{"NothingOfAnotherAlgorithm", "0", "2", kNear, {}},
-                      SentRow{"NothingBetweenTheAlgorithms", "0", "1.4", kNear, {}},
-                      SentRow{"NothingWithoutAnAlgorithm", "0", "", kNear, {}},
-                      SentRow{"NothingOfLetters", "0", "one", kNear, {}},
-                      SentRow{"NothingWithoutBoth", "", "", kNear, {}}),
+    ::testing::Values(
+        SentEchoRow{"FirstAtItsGreatest", "1", "1", kFar, {"AT+ECHO=1,1,15,3,31,31\r"}},
+        SentEchoRow{"ThirdAtItsGreatest", "1", "3", kFar, {"AT+ECHO=1,3,63,32767,256\r"}},
+        SentEchoRow{"FirstAtItsLeast", "0", "1", kNear, {"AT+ECHO=0,1,0,0,0,0\r"}},
+        SentEchoRow{"ThirdAtItsLeast", "0", "3", kNear, {"AT+ECHO=0,3,0,0,64\r"}},
+        SentEchoRow{"FirstInItsOrder", "0", "1", kBetween, {"AT+ECHO=0,1,1,2,3,4\r"}},
+        SentEchoRow{"ThirdInItsOrder", "0", "3", kBetween, {"AT+ECHO=0,3,5,6,65\r"}},
+        SentEchoRow{"WithoutAMode", "", "1", kNear, {"AT+ECHO=,1,0,0,0,0\r"}},
+        SentEchoRow{"WithoutAModeOfTheThird", "", "3", kNear, {"AT+ECHO=,3,0,0,64\r"}},
+        SentEchoRow{"AsTyped", "off", " 1 ", kNear, {"AT+ECHO=off, 1 ,0,0,0,0\r"}},
+        SentEchoRow{"OfANumberThatIsTheSame", "0", "3.0", kNear, {"AT+ECHO=0,3.0,0,0,64\r"}},
+        SentEchoRow{"NothingOfAnotherAlgorithm", "0", "2", kNear, {}},
+        SentEchoRow{"NothingBetweenTheAlgorithms", "0", "1.4", kNear, {}},
+        SentEchoRow{"NothingWithoutAnAlgorithm", "0", "", kNear, {}},
+        SentEchoRow{"NothingOfLetters", "0", "one", kNear, {}},
+        SentEchoRow{"NothingWithoutBoth", "", "", kNear, {}}),
     RowName());
 
-struct OutcomeRow {
+struct EchoOutcomeRow {
   std::string name;
   std::string reply;
   std::string status;
 };
 
-class EchoOutcome : public Echo, public ::testing::WithParamInterface<OutcomeRow> {};
+class EchoOutcome : public Echo, public ::testing::WithParamInterface<EchoOutcomeRow> {};
 
 TEST_P(EchoOutcome, IsTheDispatchersToTell) {
   pick("0", "1");
@@ -217,10 +217,10 @@ TEST_P(EchoOutcome, IsTheDispatchersToTell) {
 
 INSTANTIATE_TEST_SUITE_P(
     Of, EchoOutcome,
-    ::testing::Values(OutcomeRow{"Success", kOk, "Changes SuccessFul"},
-                      OutcomeRow{"Refusal", kError, "UnSuccessFul.Try Again"},
-                      OutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n", "Changes SuccessFul"},
-                      OutcomeRow{"TheEchoAlone", "", "UnSuccessFul.Try Again"}),
+    ::testing::Values(EchoOutcomeRow{"Success", kOk, "Changes SuccessFul"},
+                      EchoOutcomeRow{"Refusal", kError, "UnSuccessFul.Try Again"},
+                      EchoOutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n", "Changes SuccessFul"},
+                      EchoOutcomeRow{"TheEchoAlone", "", "UnSuccessFul.Try Again"}),
     RowName());
 
 TEST_F(Echo, OfAModemWithoutEchoGetsNoOutcome) {

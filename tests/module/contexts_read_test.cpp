@@ -137,13 +137,14 @@ TEST_F(ContextsRead, TheFirstNeedsNoOk) {
   EXPECT_EQ(transcript(), "");
 }
 
-struct BrokenRow {
+struct BrokenContextsRow {
   std::string name;
   std::string answer;
   Texts grid;
 };
 
-class BrokenContexts : public ContextsRead, public ::testing::WithParamInterface<BrokenRow> {};
+class BrokenContexts : public ContextsRead,
+                       public ::testing::WithParamInterface<BrokenContextsRow> {};
 
 TEST_P(BrokenContexts, EndTheReadWhereItIs) {
   load(GetParam().answer);
@@ -158,29 +159,30 @@ TEST_P(BrokenContexts, EndTheReadWhereItIs) {
 INSTANTIATE_TEST_SUITE_P(
     With, BrokenContexts,
     ::testing::Values(
-        BrokenRow{
+        BrokenContextsRow{
             "NoEmptyFieldInTheFirst", information("+CGDCONT: 1,\"IP\",\"internet\",\"\",0,0"), {}},
         // An empty field of an earlier line lies before the first one's.
-        BrokenRow{"AnEarlierLinesEmptyField",
-                  lines({"+CGDCONT: 2,\"IP\",\"b\",,0,0", "+CGDCONT: 1,\"IP\",\"a\",,0,0"}),
-                  {}},
-        BrokenRow{"NoEmptyFieldInTheSecond",
-                  lines({kInternet, "+CGDCONT: 2,\"IP\",\"b\",\"\",0,0"}),
-                  {"1|IP|internet"}},
-        BrokenRow{"NoOkBehindTheSecond",
-                  "\r\n" + std::string(kInternet) + "\r\n+CGDCONT: 2,\"IP\",\"b\",,0,0\r\n",
-                  {"1|IP|internet"}},
-        BrokenRow{"AnOkBeforeTheSecond",
-                  "\r\nOK\r\n" + std::string(kInternet) + "\r\n+CGDCONT: 2,\"IP\",\"b\",,0,0\r\n",
-                  {"1|IP|internet"}},
-        BrokenRow{"NoNameInTheFirst", information("+CGDCONT: 1,\"IP\",,,0,0"), {}},
-        BrokenRow{"NoNameInTheSecond",
-                  lines({kInternet, "+CGDCONT: 2,\"PPP\",,,0,0"}),
-                  {"1|IP|internet"}},
-        BrokenRow{"TheOtherTypesLettersAtANamesEnd",
-                  information("+CGDCONT: 1,\"IP\",\"aPPPb\",,0,0"),
-                  {}},
-        BrokenRow{
+        BrokenContextsRow{"AnEarlierLinesEmptyField",
+                          lines({"+CGDCONT: 2,\"IP\",\"b\",,0,0", "+CGDCONT: 1,\"IP\",\"a\",,0,0"}),
+                          {}},
+        BrokenContextsRow{"NoEmptyFieldInTheSecond",
+                          lines({kInternet, "+CGDCONT: 2,\"IP\",\"b\",\"\",0,0"}),
+                          {"1|IP|internet"}},
+        BrokenContextsRow{"NoOkBehindTheSecond",
+                          "\r\n" + std::string(kInternet) + "\r\n+CGDCONT: 2,\"IP\",\"b\",,0,0\r\n",
+                          {"1|IP|internet"}},
+        BrokenContextsRow{
+            "AnOkBeforeTheSecond",
+            "\r\nOK\r\n" + std::string(kInternet) + "\r\n+CGDCONT: 2,\"IP\",\"b\",,0,0\r\n",
+            {"1|IP|internet"}},
+        BrokenContextsRow{"NoNameInTheFirst", information("+CGDCONT: 1,\"IP\",,,0,0"), {}},
+        BrokenContextsRow{"NoNameInTheSecond",
+                          lines({kInternet, "+CGDCONT: 2,\"PPP\",,,0,0"}),
+                          {"1|IP|internet"}},
+        BrokenContextsRow{"TheOtherTypesLettersAtANamesEnd",
+                          information("+CGDCONT: 1,\"IP\",\"aPPPb\",,0,0"),
+                          {}},
+        BrokenContextsRow{
             "TheTypesLettersAtANamesEnd", information("+CGDCONT: 1,\"PPP\",\"voIP\",,0,0"), {}}),
     RowName());
 

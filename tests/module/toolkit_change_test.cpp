@@ -171,14 +171,15 @@ TEST_F(ToolkitChange, WithoutAModeOnlyTakesTheStatusDown) {
   expectAtRest();
 }
 
-struct OutcomeRow {
+struct ModeOutcomeRow {
   std::string name;
   std::string answer;
   std::string shown;
   bool reset;
 };
 
-class ToolkitOutcome : public ToolkitChange, public ::testing::WithParamInterface<OutcomeRow> {};
+class ToolkitOutcome : public ToolkitChange,
+                       public ::testing::WithParamInterface<ModeOutcomeRow> {};
 
 TEST_P(ToolkitOutcome, IsShownAfterASecond) {
   inPanel([this] { form1().MSComm1.SThreshold = 0; });
@@ -200,12 +201,12 @@ TEST_P(ToolkitOutcome, IsShownAfterASecond) {
 
 INSTANTIATE_TEST_SUITE_P(
     Is, ToolkitOutcome,
-    ::testing::Values(OutcomeRow{"Ok", kOk, "Changes SuccessFul-SIM ToolKit", true},
-                      OutcomeRow{"Error", kError, "Changes UnSuccessFul", false},
-                      OutcomeRow{"Both", "\r\nERROR\r\n\r\nOK\r\n",
-                                 "Changes SuccessFul-SIM ToolKit", true},
-                      OutcomeRow{"Neither", "\r\n+STSF: 1\r\n", "", false},
-                      OutcomeRow{"Silence", "", "", false}),
+    ::testing::Values(ModeOutcomeRow{"Ok", kOk, "Changes SuccessFul-SIM ToolKit", true},
+                      ModeOutcomeRow{"Error", kError, "Changes UnSuccessFul", false},
+                      ModeOutcomeRow{"Both", "\r\nERROR\r\n\r\nOK\r\n",
+                                     "Changes SuccessFul-SIM ToolKit", true},
+                      ModeOutcomeRow{"Neither", "\r\n+STSF: 1\r\n", "", false},
+                      ModeOutcomeRow{"Silence", "", "", false}),
     RowName());
 
 // The notice of a change is taken down at the next one's beginning, and stays down.

@@ -9,7 +9,7 @@
 namespace gsm::simulator {
 namespace {
 
-constexpr const char* kPrompt = "\r\n> ";
+constexpr const char* kTextPrompt = "\r\n> ";
 
 class MessageSendCommands : public testing::Test {
  protected:
@@ -18,7 +18,7 @@ class MessageSendCommands : public testing::Test {
   // Writes the command, waits for the prompt, and returns what comes after the text's echo.
   std::string send(const std::string& command, const std::string& text,
                    std::chrono::nanoseconds time = seconds(4)) {
-    EXPECT_EQ(bench_.ask(command), kPrompt) << command;
+    EXPECT_EQ(bench_.ask(command), kTextPrompt) << command;
     return bench_.write(text + "\x1A", time);
   }
 
@@ -93,7 +93,7 @@ TEST_F(MessageSendCommands, EveryLineOfTheTextHasAPrompt) {
 
 TEST_F(MessageSendCommands, TextIsEchoedOnlyWithEcho) {
   bench_.ask("ATE0");
-  EXPECT_EQ(bench_.write("AT+CMGW=0123\r"), kPrompt);
+  EXPECT_EQ(bench_.write("AT+CMGW=0123\r"), kTextPrompt);
   EXPECT_EQ(bench_.write("one\rtwo\x1A"), "\r\n> \r\n+CMGW: 1\r\n\r\nOK\r\n");
 }
 
@@ -110,7 +110,7 @@ TEST_F(MessageSendCommands, BackspaceTakesTheLastByteBack) {
 
 TEST_F(MessageSendCommands, EscapeGivesTheTextUpWithOk) {
   for (const char* command : {"AT+CMGS=0123", "AT+CMGW=0123"}) {
-    EXPECT_EQ(bench_.ask(command), kPrompt);
+    EXPECT_EQ(bench_.ask(command), kTextPrompt);
     EXPECT_EQ(bench_.write("Hello\x1B", seconds(4)), std::string("Hello") + kOk) << command;
   }
   EXPECT_EQ(bench_.ask("AT+CMGL=\"ALL\""), kOk);
@@ -224,7 +224,7 @@ TEST_F(MessageSendCommands, MessageThatCantBeKeptIsAnError) {
 }
 
 TEST_F(MessageSendCommands, PromptAnswersOfOneLineFollowOneAnother) {
-  EXPECT_EQ(bench_.ask("AT+CMGW=1;+CMGW=2;+CMGF?"), kPrompt);
+  EXPECT_EQ(bench_.ask("AT+CMGW=1;+CMGW=2;+CMGF?"), kTextPrompt);
   EXPECT_EQ(bench_.write("a\x1A"), "a\r\n> ");
   EXPECT_EQ(bench_.write("b\x1A"), "b\r\n+CMGW: 1\r\n\r\n+CMGW: 2\r\n\r\n+CMGF: 1\r\n\r\nOK\r\n");
 }

@@ -8,10 +8,10 @@
 namespace gsm::simulator {
 namespace {
 
-constexpr const char* kTime = "99/03/29,15:16:59+08";
+constexpr const char* kPduTime = "99/03/29,15:16:59+08";
 
 TEST(Pdu, DeliveryHasTheSenderTheTimeAndTheText) {
-  EXPECT_EQ(deliveryPdu("+27381000015", "+27838890001", kTime, "hellohello"),
+  EXPECT_EQ(deliveryPdu("+27381000015", "+27838890001", kPduTime, "hellohello"),
             (Pdu{"07917283010010F5"
                  "04"
                  "0B917238880900F1"
