@@ -207,7 +207,7 @@ struct AnswerOutcomeRow {
   bool done;
 };
 
-class AnswerOutcomeRow : public AnswerPage, public ::testing::WithParamInterface<AnswerOutcomeRow> {
+class AnswerOutcome : public AnswerPage, public ::testing::WithParamInterface<AnswerOutcomeRow> {
  protected:
   static constexpr const char* kRefused = "Changes UNSuccessFul.Try Again";
   void change(OptionButton& option, const std::string& command) {
@@ -226,7 +226,7 @@ class AnswerOutcomeRow : public AnswerPage, public ::testing::WithParamInterface
   }
 };
 
-TEST_P(AnswerOutcomeRow, OfEnablingTakesTheAnswerButtonFromThePrompt) {
+TEST_P(AnswerOutcome, OfEnablingTakesTheAnswerButtonFromThePrompt) {
   const bool done = GetParam().done;
   change(form().Option4, "ATS0=2");
   EXPECT_EQ(status(), done ? "Changes SuccessFul.AutoAnswer Enabled" : kRefused);
@@ -234,7 +234,7 @@ TEST_P(AnswerOutcomeRow, OfEnablingTakesTheAnswerButtonFromThePrompt) {
   EXPECT_EQ(promptSays(), done ? "AutoAnswer Enabled" : "");
 }
 
-TEST_P(AnswerOutcomeRow, OfDisablingGivesItBack) {
+TEST_P(AnswerOutcome, OfDisablingGivesItBack) {
   assign([this] {
     panel().form5.Command1.Enabled = false;
     panel().form5.Label2.Caption = "AutoAnswer Enabled";
@@ -247,7 +247,7 @@ TEST_P(AnswerOutcomeRow, OfDisablingGivesItBack) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Is, AnswerOutcomeRow,
+    Is, AnswerOutcome,
     ::testing::Values(AnswerOutcomeRow{"Success", kOk, true},
                       AnswerOutcomeRow{"Refusal", kError, false},
                       AnswerOutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n", true},
