@@ -66,6 +66,33 @@ constexpr auto kPieces = std::to_array<std::string_view>({
     "AT+ECHO=",
     "+SIDET: 1,2\r\n",
     "AT+SIDET=",
+    "ECHO: 1,1,15,3,31,31\r\n",
+    "+ECHO: 1,3,63,32767,256\r\n",
+    "SIDET: 0,",
+    "VGR: 064",
+    "ATS0?\r\r\n002\r\n",
+    "+VTD: 3\r\n",
+    "+VTD: 328\r\n",
+    // data and fax
+    "+CBST: 71,0,1\r\n\r\nOK\r\n",
+    "+CBST: ",
+    "AT%C?",
+    "AT\\N?",
+    "2\r\n",
+    "+FCLASS: 2\r\n",
+    // the module's own
+    "+CIND: 5,3,1,1,0,0,1\r\n\r\nOK\r\n",
+    "+CCED:208,20,00C3,7066,37,706,31,,,0,,,0\r\n",
+    "+WIND: 5,1\r\n",
+    "AT+CPHS=1,1",
+    "+WVMI: 1,1\r\n",
+    "+WIOR: 1\r\n",
+    "+STSF: 1,\"160060C01F\",3,1\r\n\r\nOK\r\n",
+    "+STSF: 2,\"16\",",
+    "+CGDCONT: 1,\"IP\",\"internet\",,0,0\r\n",
+    "+CGDCONT: 3,\"PPP\",\"IP.example\",,0,0\r\n",
+    "+CGDCONT: 2,\"",
+    ",,0,0",
     // messages
     "AT+CMGS=",
     "AT+CMGW=",
@@ -158,13 +185,23 @@ constexpr auto kLines = std::to_array<std::string_view>({
     "lock PN off",
     "services",
     "phonebook",
+    "pin 3 set",
+    "pin 0 reset",
+    "power on",
+    "battery 0",
+    "battery 5",
+    "voicemail on",
+    "voicemail off",
+    "cell",
 });
 
 // What a person types into a box: numbers, names, codes, and what does harm.
 constexpr auto kKeys = std::to_array<std::string_view>({
-    "0146290800", "+33612345678", "112",      "1",        "7",     "15",     "0000",
-    "1234",       "12345678",     "00000000", "87654321", "Alice", "O'Hara", "Come at once",
-    "OK",         "ERROR",        "\b\b",     "2.5",      "-1",    "AT\r\n",
+    "0146290800", "+33612345678", "112",       "1",          "7",        "15",     "0000",
+    "1234",       "12345678",     "00000000",  "87654321",   "Alice",    "O'Hara", "Come at once",
+    "OK",         "ERROR",        "\b\b",      "2.5",        "-1",       "AT\r\n", "300",
+    "32767",      "32768",        "9600",      "19200",      "internet", "3",      "255",
+    "96",         "160060C01F",   "Configure", "IP.example",
 });
 
 template <std::size_t size>
@@ -203,7 +240,23 @@ std::vector<std::pair<std::string, std::string>> goodAnswers() {
           {"AT+CLCK=", ok("+CLCK: 0,7")},
           {"AT+CLCK?", ok("+CLCK:(\"PS\",0),(\"SC\",1),(\"FD\",0),(\"PN\",0)")},
           {"AT+CCWA=1,2", ok("+CCWA: 1,1")},
-          {"AT+CCUG?", ok("+CCUG: 0,0,0")}};
+          {"AT+CCUG?", ok("+CCUG: 0,0,0")},
+          {"AT&V", ok("Q:0 V:1 S0:000\r\n+ECHO:0,1 &C:1 &D:1\r\n+IPR:9600 +ICF:3,4 +IFC:2,2")},
+          {"AT+VGR?", ok("+VGR: 128")},
+          {"AT+VGT?", ok("+VGT: 64")},
+          {"AT+ECHO?", ok("+ECHO: 0,1,0,3,10,7")},
+          {"AT+SIDET?", ok("+SIDET: 1,2")},
+          {"ATS0?", ok("002")},
+          {"AT+VTD?", ok("+VTD: 3")},
+          {"AT+CBST?", ok("+CBST: 71,0,1")},
+          {"AT%C?", ok("2")},
+          {"AT\\N?", ok("5")},
+          {"AT+FCLASS?", ok("+FCLASS: 2")},
+          {"AT+CIND?", ok("+CIND: 5,3,1,0,0,0,0")},
+          {"AT+WIOR=", ok("+WIOR: 1")},
+          {"AT+STSF?", ok("+STSF: 1,\"160060C01F\",3,1")},
+          {"AT+CGDCONT?", ok("+CGDCONT: 1,\"IP\",\"internet\",,0,0\r\n"
+                             "+CGDCONT: 3,\"PPP\",\"IP.example\",,0,0")}};
 }
 
 }  // namespace gsm

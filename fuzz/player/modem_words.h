@@ -17,8 +17,8 @@ std::string consoleLine(Decisions& decisions);
 /// Keys that a user presses in a box, with control characters among them.
 std::string typing(Decisions& decisions);
 
-/// The beginnings of the commands that ask for the SIM, the phone book, messages, services and
-/// locks, each with an answer to them.
+/// The beginnings of the commands that ask for something, window by window, each with an answer to
+/// them.
 std::vector<std::pair<std::string, std::string>> goodAnswers();
 
 }  // namespace gsm

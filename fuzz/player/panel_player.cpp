@@ -52,13 +52,17 @@ void PanelPlayer::startAnew(Decisions& decisions) {
   const std::string comFile = saved ? "9600,N,8,1 3\r\n" : decisions.text(30);
   std::ofstream(folder_ / "COM.txt", std::ios::binary) << comFile;
 
-  if (world_) earlier_ += world_->machine.time.now();
+  LocalTime now{2026, 2, 27, 22, 0, 0};
+  if (world_) {
+    now = world_->panel.platform.clock.localTime();
+    earlier_ += world_->machine.time.now();
+  }
   modem_.reset();
   transcript_.reset();
   end_.reset();
   world_.reset();  // its handlers unwind before another's begin
   book_.lay(decisions);
-  world_ = std::make_unique<HeadlessPanel>(folder_, LocalTime{2026, 2, 27, 22, 0, 0});
+  world_ = std::make_unique<HeadlessPanel>(folder_, now);
   world_->machine.ports.set({{.number = kPort}, {.number = 5}});
   world_->machine.line.plug(kPort);
   teachModem();
@@ -239,12 +243,21 @@ void PanelPlayer::rest() {
   const auto clock = [this] { return world_->panel.form1.Label4.Caption.peek(); };
   const std::string before = clock();
   run(std::chrono::seconds(2));
-  if (!world_->machine.time.hasEnded() && clock() == before) note("the clock has stopped");
+  if (world_->machine.time.hasEnded()) return;
+  if (clock() == before) note("the clock has stopped");
+  const std::size_t length = transcriptLength();
+  run(std::chrono::hours(1));
+  if (world_->machine.time.hasEnded()) return;
+  if (transcriptLength() > length) note("the transcript grows with nobody at the line");
   if (modem_) {
     world_->machine.line.setModem(modem_.get());
   } else {
     world_->machine.line.setModem(&world_->modem);
   }
+}
+
+std::size_t PanelPlayer::transcriptLength() const {
+  return world_->panel.form1.Text1.Text.peek().size();
 }
 
 // Who rings does so for ever.
@@ -256,6 +269,7 @@ void PanelPlayer::endCalls() {
 // What must hold at any moment between two steps.
 void PanelPlayer::look() {
   const int depth = world_->handlers().depth();
+  longestTranscript_ = std::max(longestTranscript_, transcriptLength());
   note(book_.problem());
   if (depth > kDeepest) note(std::to_string(depth) + " handlers on the stack");
   for (const Window* window : world_->panel.platform.windows) {

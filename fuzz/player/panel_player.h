@@ -27,8 +27,12 @@ class PanelPlayer {
   /// Takes one step.
   void step(Decisions& decisions);
 
-  /// Lets everything come to rest: boxes answered, windows closed, the modem unplugged.
+  /// Lets everything come to rest: boxes answered, windows closed, the modem unplugged for an hour.
   void rest();
+
+  /// Starts another program, where the time has come to by then. One that still runs ends with what
+  /// it was at, as when the machine is switched off.
+  void startAnew(Decisions& decisions);
 
   /// What doesn't hold that must; empty while all is well.
   const std::string& problem() const { return problem_; }
@@ -37,11 +41,12 @@ class PanelPlayer {
   Duration played() const { return earlier_ + world_->machine.time.now(); }
   /// How many programs have been started.
   int starts() const { return starts_; }
+  /// The most characters that the transcript has held between two clearings.
+  std::size_t longestTranscript() const { return longestTranscript_; }
   /// How often the user got something done in each window, by the windows' names.
   const std::map<std::string, int>& deeds() const { return deeds_; }
 
  private:
-  void startAnew(Decisions& decisions);
   void teachModem();
 
   // The steps.
@@ -63,6 +68,7 @@ class PanelPlayer {
   void happens(std::function<void()> event);
   void run(Duration span);
   void endCalls();
+  std::size_t transcriptLength() const;
 
   void look();
   void note(const std::string& problem);
@@ -75,6 +81,7 @@ class PanelPlayer {
   std::unique_ptr<SimulatedModem> modem_;  // in the place of the scripted one; may be none
   Duration earlier_{0};
   int starts_ = 0;
+  std::size_t longestTranscript_ = 0;
   std::map<std::string, int> deeds_;
   std::string problem_;
 };

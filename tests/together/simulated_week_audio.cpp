@@ -66,10 +66,11 @@ void SimulatedWeek::tuneGains() {
   EXPECT_EQ(audio().Label7.Caption.peek(), "Changes SuccessFul-Microphone");
   sent();
   if (perhaps(2)) {
+    const std::string statusLine = form1().Label5.Caption.peek();
     press(audio().Command2);
     EXPECT_TRUE(form1().Visible.peek());
     EXPECT_TRUE(audio().isLoaded());
-    EXPECT_EQ(form1().Label5.Caption.peek(), "Please Wait...");
+    EXPECT_EQ(form1().Label5.Caption.peek(), statusLine);
     EXPECT_EQ(sent(), Texts{});
   } else {
     showPanel();
