@@ -88,7 +88,7 @@ void LabelView::show(PropertyId property) {
 }
 
 void LabelView::showCaption() {
-  widget_.setText(toQt(control_.Caption.peek()));
+  widget_.setText(withoutLineEnd(toQt(control_.Caption.peek())));
   polishAnew(widget_);  // the style sheet may look at the text, and looks only when asked to
 }
 
