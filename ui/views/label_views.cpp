@@ -119,7 +119,9 @@ void PictureView::press() {
 void FrameView::show(PropertyId property) {
   auto* box = qobject_cast<QGroupBox*>(&widget_);
   if (box != nullptr && property == PropertyId::Caption) {
-    box->setTitle(withoutMnemonics(toQt(control_.Caption.peek())));
+    const QString caption = toQt(control_.Caption.peek());
+    box->setTitle(withoutMnemonics(caption));
+    box->setAccessibleName(caption);  // Qt gives out that of the box around it
   }
 }
 
