@@ -94,7 +94,7 @@ Page readPage(std::string name, std::string_view text) {
       .name = std::move(name), .whole = sectionOf(lines.begin(), lines.end()), .sections = {}};
   for (auto line = lines.begin(); line != lines.end(); ++line) {
     const std::size_t rank = rankOf(*line);
-    if (rank == 0) continue;
+    if (rank < 2) continue;
     const auto next = std::find_if(line + 1, lines.end(), [rank](const std::string& other) {
       return rankOf(other) != 0 && rankOf(other) <= rank;
     });

@@ -31,7 +31,7 @@ struct Section {
 struct Page {
   std::string name;  // of the file
   Section whole;
-  std::vector<Section> sections;
+  std::vector<Section> sections;  // under each heading but the page's own
 };
 
 /// `text` without blanks at its ends, and with single ones in it.
