@@ -164,6 +164,46 @@ TEST_F(FormsTest, EveryComboHasAName) {
   }
 }
 
+TEST_F(FormsTest, WhatADecorationNamesIsThere) {
+  for (Window* window : windows()) {
+    QWidget* form = screen_.widget(*window);
+    for (const QWidget* widget : form->findChildren<QWidget*>()) {
+      for (const char* property : {"insteadOf", "valueOf", "opens"}) {
+        const QString name = widget->property(property).toString();
+        EXPECT_TRUE(name.isEmpty() || form->findChild<QWidget*>(name) != nullptr)
+            << window->name() << ": " << property << " " << name.toStdString();
+      }
+    }
+  }
+}
+
+// Each press of a button on these windows may bring up a row above another button.
+TEST_F(FormsTest, WhatComesUpLeavesAllElseWhereItIs) {
+  struct Row {
+    const char* window;
+    const char* comesUp;
+    const char* below;
+  };
+  for (const Row& row : {Row{.window = "Form6", .comesUp = "Combo3", .below = "Command5"},
+                         Row{.window = "Form18", .comesUp = "Text1", .below = "Command1"},
+                         Row{.window = "Form19", .comesUp = "Text2", .below = "Text5"}}) {
+    QWidget* form = screen_.widget(*windowNamed(platform(), row.window));
+    const QWidget* below = form->findChild<QWidget*>(row.below);
+    for (QWidget* each = form->findChild<QWidget*>(row.below); each != form;
+         each = each->parentWidget()) {
+      each->show();
+    }
+    auto* comesUp = form->findChild<QWidget*>(row.comesUp);
+    comesUp->hide();
+    form->show();
+    const QRect place(below->mapTo(form, QPoint()), below->size());
+    comesUp->show();
+    settle();
+    EXPECT_EQ(QRect(below->mapTo(form, QPoint()), below->size()), place) << row.window;
+    form->hide();
+  }
+}
+
 // The tiles can't be reached by pointer, key or mnemonic while the log stands in their place.
 TEST_F(FormsTest, TheLogStandsInThePlaceOfTheTiles) {
   Form1& form1 = panel_.form1;

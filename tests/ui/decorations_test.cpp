@@ -1,6 +1,7 @@
 #include "ui/views/decorations.h"
 
 #include <QLabel>
+#include <QPushButton>
 
 #include "controls/controls.h"
 #include "tests/support/desktop/desktop_fixture.h"
@@ -23,6 +24,8 @@ class DecorationsTest : public FormTest {
   DecorationsTest() {
     tiles_.setProperty("insteadOf", "Frame5");
     covered_.setProperty("insteadOf", "Frame6");
+    opener_.setProperty("opens", "Frame5");
+    label2_.setProperty("keepsRoom", true);
     hint_.setProperty("whileEmpty", "Label1 Label2");
     bind(window_);
   }
@@ -35,6 +38,7 @@ class DecorationsTest : public FormTest {
   QFrame& covered_ = put<QFrame>("Frame7");
   QWidget& tiles_ = put<QWidget>("decoTiles");
   QLabel& hint_ = put<QLabel>("decoHint");
+  QPushButton& opener_ = put<QPushButton>("Command1");
 };
 
 TEST_F(DecorationsTest, OneOfTwoPagesIsThere) {
@@ -63,6 +67,21 @@ TEST_F(DecorationsTest, OfTwoFramesOnOnePlaceOneIsCoveredWhileBothAreOnView) {
   window_.Frame6.Visible = false;
   window_.Frame7.Visible = false;
   EXPECT_FALSE(covered_.isVisible());
+}
+
+TEST_F(DecorationsTest, AButtonTellsThatItsPageIsOnView) {
+  EXPECT_TRUE(opener_.property("current").toBool());
+  EXPECT_EQ(opener_.accessibleDescription(), "This page is on view");
+  window_.Frame5.Visible = false;
+  EXPECT_FALSE(opener_.property("current").toBool());
+  EXPECT_EQ(opener_.accessibleDescription(), "");
+  window_.Frame5.Visible = true;
+  EXPECT_TRUE(opener_.property("current").toBool());
+}
+
+TEST_F(DecorationsTest, WhatKeepsItsRoomMovesNothingWhenItGoes) {
+  EXPECT_TRUE(label2_.sizePolicy().retainSizeWhenHidden());
+  EXPECT_FALSE(label1_.sizePolicy().retainSizeWhenHidden());
 }
 
 TEST_F(DecorationsTest, AHintStandsThereWhileAllItsLabelsAreEmpty) {

@@ -15,6 +15,8 @@ namespace {
 constexpr const char* kDeviceIsGone =
     "The device is gone: it was unplugged or switched off. Plug it in, then click REFRESH.";
 
+constexpr const char* kPageIsUp = "This page is on view";
+
 std::vector<QLabel*> labelsNamed(const QWidget& form, const QString& names) {
   std::vector<QLabel*> labels;
   for (const QString& name : names.split(' ', Qt::SkipEmptyParts)) {
@@ -23,11 +25,21 @@ std::vector<QLabel*> labelsNamed(const QWidget& form, const QString& names) {
   return labels;
 }
 
-// The window stays as it is when one takes the place of the other.
+QWidget* named(const QWidget& form, const QVariant& name) {
+  return name.isValid() ? form.findChild<QWidget*>(name.toString()) : nullptr;
+}
+
+// The window stays as it is when this one goes.
 void keepRoom(QWidget& widget) {
   QSizePolicy policy = widget.sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   widget.setSizePolicy(policy);
+}
+
+void tellOfPage(QWidget& button, bool isCurrent) {
+  button.setProperty("current", isCurrent);
+  button.setAccessibleDescription(isCurrent ? kPageIsUp : QString());
+  polishAnew(button);
 }
 
 }  // namespace
@@ -35,16 +47,9 @@ void keepRoom(QWidget& widget) {
 Decorations::Decorations(QWidget& form, const Platform& platform)
     : QObject(&form), platform_(platform) {
   for (QWidget* widget : form.findChildren<QWidget*>()) {
-    if (const QVariant name = widget->property("insteadOf"); name.isValid()) {
-      if (auto* place = form.findChild<QWidget*>(name.toString())) {
-        places_.push_back({place, widget});
-        place->installEventFilter(this);
-        widget->installEventFilter(this);
-        keepRoom(*place);
-        keepRoom(*widget);
-        widget->setVisible(place->isHidden());
-      }
-    }
+    if (QWidget* place = named(form, widget->property("insteadOf"))) addPlace(*widget, *place);
+    if (QWidget* page = named(form, widget->property("opens"))) addOpener(*widget, *page);
+    if (widget->property("keepsRoom").toBool()) keepRoom(*widget);
     if (const QVariant names = widget->property("whileEmpty"); names.isValid()) {
       hints_.push_back({widget, labelsNamed(form, names.toString())});
       widget->hide();
@@ -56,6 +61,21 @@ Decorations::Decorations(QWidget& form, const Platform& platform)
           [this] { look(); });
 }
 
+void Decorations::addPlace(QWidget& standIn, QWidget& place) {
+  places_.push_back({&place, &standIn});
+  place.installEventFilter(this);
+  standIn.installEventFilter(this);
+  keepRoom(place);
+  keepRoom(standIn);
+  standIn.setVisible(place.isHidden());
+}
+
+void Decorations::addOpener(QWidget& button, QWidget& page) {
+  openers_.push_back({&page, &button});
+  page.installEventFilter(this);
+  tellOfPage(button, !page.isHidden());
+}
+
 bool Decorations::eventFilter(QObject* watched, QEvent* event) {
   const bool isShown = event->type() == QEvent::ShowToParent;
   if (isShown || event->type() == QEvent::HideToParent) {
@@ -63,6 +83,9 @@ bool Decorations::eventFilter(QObject* watched, QEvent* event) {
       if (place.widget == watched) place.standIn->setVisible(place.widget->isHidden());
       // One that is a control's may be shown by itself.
       if (place.standIn == watched && isShown && !place.widget->isHidden()) place.standIn->hide();
+    }
+    for (const Opener& each : openers_) {
+      if (each.page == watched) tellOfPage(*each.button, isShown);
     }
   }
   return false;

@@ -13,6 +13,10 @@ namespace gsm {
 /// properties:
 /// - `insteadOf`: the name of a widget in whose place this one stands: one or the other is there.
 ///   This one may be a control's of its own, which is covered while both are on view.
+/// - `opens`: the name of the page that this button brings up. While the page is there, the button
+///   says so by the property `current` (for the style) and its accessible description.
+/// - `keepsRoom`: true for what leaves its place empty while it is hidden: what stands below stays
+///   where the user's pointer is.
 /// - `whileEmpty`: names of labels, with blanks between. Shown while all of them are empty and no
 ///   handler runs.
 /// - `tellsOfDevice`: true for what shows that the port's device has gone, by the property `gone`
@@ -29,16 +33,23 @@ class Decorations : public QObject {
     QWidget* widget;
     QWidget* standIn;
   };
+  struct Opener {
+    QWidget* page;
+    QWidget* button;
+  };
   struct Hint {
     QWidget* widget;
     std::vector<QLabel*> labels;
   };
 
+  void addPlace(QWidget& standIn, QWidget& place);
+  void addOpener(QWidget& button, QWidget& page);
   void look();
   void showDevice();
 
   const Platform& platform_;
   std::vector<Place> places_;
+  std::vector<Opener> openers_;
   std::vector<Hint> hints_;
   std::vector<QWidget*> badges_;
   bool deviceIsGone_ = false;
