@@ -2,6 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <fstream>
 #include <string>
 
 #include "app/headless_panel.h"
@@ -26,12 +27,15 @@ void openPort(HeadlessPanel& world) {
 
 void flood(benchmark::State& state) {
   const auto gap = std::chrono::microseconds(state.range(0));
+  const bool recorded = state.range(1) != 0;
   const TemporaryFolder folder;
   folder.write("COM.txt", "9600,N,8,1 3\r\n");
   std::size_t kept = 0;
   for (auto _ : state) {
     state.PauseTiming();
-    HeadlessPanel world(folder.path(), {2026, 3, 1, 10, 0, 0});
+    std::ofstream record(folder.path() / "record", std::ios::binary);
+    HeadlessPanel world(folder.path(), {2026, 3, 1, 10, 0, 0}, nullptr,
+                        recorded ? &record : nullptr);
     openPort(world);
     state.ResumeTiming();
     for (int each = 0; each < kChunks; ++each) {
@@ -44,10 +48,10 @@ void flood(benchmark::State& state) {
   if (kept != 588'890) state.SkipWithError("bytes were lost");
   state.SetItemsProcessed(state.iterations() * kChunks);
 }
-// All at one instant, and one each millisecond.
+// All at one instant, and one each millisecond; without a record of the line, and with one.
 BENCHMARK(flood)
-    ->Arg(0)
-    ->Arg(1000)
+    ->ArgsProduct({{0, 1000}, {0, 1}})
+    ->ArgNames({"gap", "recorded"})
     ->Unit(benchmark::kMillisecond)
     ->MeasureProcessCPUTime()
     ->UseRealTime();

@@ -80,7 +80,7 @@ class RunningPanel {
     stat >> user >> system;
     return static_cast<double>(user + system) / static_cast<double>(::sysconf(_SC_CLK_TCK));
   }
-  // A line of the process's status that tells an amount of memory, in MB.
+  // A line of the process's status that reports an amount of memory, in MB.
   double memory(const std::string& name) const {
     std::ifstream status("/proc/" + std::to_string(id_) + "/status");
     for (std::string line; std::getline(status, line);) {
@@ -128,7 +128,7 @@ void measureFlood(int seconds) {
   std::printf("%d s of noise: %.1f MB taken, %.1f s of processor time, peak %.0f MB\n", seconds,
               static_cast<double>(taken) / 1e6, used, panel.memory("VmHWM"));
   panel.rest(5000ms);
-  // The dispatcher clears the whole transcript behind this one, two seconds later.
+  // The dispatcher clears the whole transcript after this one, two seconds later.
   panel.say("\r\n+CSQ: 20,0\r\n");
   panel.rest(12'000ms);
   std::printf("10 s after a clearing: %.0f MB (before the noise %.0f MB)\n", panel.memory("VmRSS"),

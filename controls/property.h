@@ -132,7 +132,7 @@ class Property final : public PropertyBase {
     value_ = std::move(value);
     announce();
   }
-  /// Changes the value in place, for values that are dear to copy.
+  /// Changes the value in place, for values that are costly to copy.
   template <class Change>
   void change(Change&& change) {
     std::forward<Change>(change)(value_);

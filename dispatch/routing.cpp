@@ -59,7 +59,7 @@ void showServiceCenter(Form1& form, Form6&, Position) {
 }
 
 // The row of tests. Each looks at the transcript anew, so a test that clears it makes all tests
-// behind it fail, and one that doesn't leaves the same text to them and to the next call.
+// after it fail, and one that doesn't leaves the same text to them and to the next call.
 const std::vector<Test>& tests() {
   static const std::vector<Test> row = {
       {{{"CMTI", method(&Form1::tellOfMessage)}}, "", Clearing::whole},

@@ -34,7 +34,7 @@ void checkJetHeader(const fs::path& file) {
     throw databaseFailureSaying(DatabaseFault::badFormat,
                                 name + " isn't a Jet 3 or Jet 4 database.");
   }
-  // The library takes what lies behind the end for zeros, and so for tables without rows.
+  // The library takes what lies after the end for zeros, and so for tables without rows.
   const std::uintmax_t pageSize = version == 0 ? 2048 : 4096;
   const std::uintmax_t size = fs::file_size(file, error);
   if (error || size % pageSize != 0) throw damagedJetFile(file, "its end is missing");

@@ -7,7 +7,7 @@
 
 namespace gsm {
 
-// What the reading process tells its parent: whole numbers of four bytes, and texts of such a
+// What the reading process reports to its parent: whole numbers of four bytes, and texts of such a
 // length and as many bytes. Each message begins with the number of its kind.
 
 /// The messages, with what follows the kind.

@@ -35,7 +35,7 @@ bool hasText(const MdbColumn& column) {
   }
 }
 
-// Where the library lays a column of the row that it has fetched, as a text with a zero behind it.
+// Where the library lays a column of the row that it has fetched, as a text with a zero after it.
 class Cell {
  public:
   Cell() : bytes_(std::make_unique<char[]>(MDB_BIND_SIZE)) {}

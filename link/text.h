@@ -15,7 +15,7 @@ using Position = std::int64_t;
 /// Where `key` first stands in `text`, exact in case; 0 when it doesn't.
 Position position(std::string_view key, std::string_view text);
 
-/// Up to `length` characters of `text` from `start` on; empty when `start` lies behind the end.
+/// Up to `length` characters of `text` from `start` on; empty when `start` lies after the end.
 /// `invalidArgument` when `start` is below 1 or `length` is negative.
 std::string slice(std::string_view text, Position start, Position length);
 
@@ -23,11 +23,11 @@ std::string slice(std::string_view text, Position start, Position length);
 /// isn't there, since what lies before position 0 has a negative length.
 std::string before(std::string_view end, std::string_view text);
 
-/// `text` behind the first `end`, or all of it when `end` isn't there.
+/// `text` after the first `end`, or all of it when `end` isn't there.
 std::string behind(std::string_view end, std::string_view text);
 
 /// Takes the field before the first comma off `reply` and returns it. `reply` keeps what lies
-/// behind the comma, as many characters as "OK" stands at in it. `invalidArgument` when there is no
+/// after the comma, as many characters as "OK" stands at in it. `invalidArgument` when there is no
 /// comma.
 std::string takeReplyField(std::string& reply);
 

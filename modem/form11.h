@@ -7,7 +7,7 @@ namespace gsm {
 
 struct Panel;
 
-/// A picture that tells of a new message for some seconds.
+/// A picture that reports a new message for some seconds.
 class Form11 : public Window {
  public:
   explicit Form11(Panel& panel);

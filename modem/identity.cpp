@@ -10,7 +10,7 @@
 
 namespace gsm {
 
-// The reply to "AT+CGSN": the number stands behind the echo, its carriage return, and a line end.
+// The reply to "AT+CGSN": the number stands after the echo, its carriage return, and a line end.
 void takeImei(const Panel& panel, Position echo) {
   panel.form2.Label2.Caption = "IMEI: ";
   panel.form2.Label3.Caption = panel.form1.modem.slice(echo + 10, 15);

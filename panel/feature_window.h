@@ -29,7 +29,7 @@ class FeatureWindow : public Window {
   const OnClose onClose_;
 };
 
-/// Passes a window's minimised or normal state on to the status window; maximised tells it nothing.
+/// Passes a window's minimised or normal state on to the status window; maximised is not passed on.
 void followWith(Window& follower, int windowState);
 
 }  // namespace gsm

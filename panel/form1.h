@@ -32,7 +32,7 @@ class Form1 : public Window {
   /// Everything that happens on the line: takes in what was received and routes it.
   void OnComm();
 
-  /// Adds `text` to the transcript as something to look at, with a line before and behind. Nothing
+  /// Adds `text` to the transcript as something to look at, with a line before and after. Nothing
   /// calls it.
   void ShowResponse(const std::string& text);
 

@@ -35,7 +35,7 @@ std::string rowIndex(const std::string& row) { return firstWord(row); }
 std::string rowNumber(const std::string& row) {
   const std::size_t index = rowIndex(row).size();
   const std::string number = firstWord(trim(row.substr(index)));
-  // Where the number stands, what comes behind its first blank included.
+  // Where the number stands, what comes after its first blank included.
   const std::string place = row.substr(0, index + kGap + kNumberWidth);
   return hasControls(place) || hasControls(number) ? std::string{} : number;
 }

@@ -11,7 +11,7 @@ std::string bookRow(const std::string& index, const std::string& number, const s
 /// The index at the beginning of a row; empty when there is no row.
 std::string rowIndex(const std::string& row);
 
-/// The number in a row; empty when nothing stands behind it (an entry without a name), and when the
+/// The number in a row; empty when nothing stands after it (an entry without a name), and when the
 /// location or the number holds a control character, with which it would become a second command.
 std::string rowNumber(const std::string& row);
 

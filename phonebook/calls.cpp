@@ -32,7 +32,7 @@ void Form3::dial() try {
   // Ends silently.
 }
 
-// "Redial": the modem remembers the number, and says it behind the echo and a line end.
+// "Redial": the modem remembers the number, and says it after the echo and a line end.
 void Form3::redial() try {
   Conversation& talk = modem();
   modem().exchange("ATDL");
@@ -56,7 +56,7 @@ void Form3::hangUp() try {
 }
 
 // Nine looks at the transcript, two seconds apart, of which none is spared: the first word that
-// stands there tells the state, and the dispatcher may write another in between.
+// stands there reports the state, and the dispatcher may write another in between.
 void Form3::watchCall(OnError onError) {
   const Conversation& talk = modem();
   for (int pass = 1; pass != 10; ++pass) {

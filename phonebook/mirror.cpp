@@ -54,7 +54,7 @@ void Form1::SavePhoneBook() try {
   details.Update();
   modem.clear();
 
-  // Locations 1 to the used count: entries behind a hole may lie above, and stay unread.
+  // Locations 1 to the used count: entries after a hole may lie above, and stay unread.
   const int last = wholeNumber(used);
   for (int location = 1; location <= last; ++location) saveEntry(modem, calls, location);
   calls.Data1.Refresh();

@@ -21,7 +21,7 @@ class EventLoop {
 
   virtual ~EventLoop() = default;
 
-  /// Puts `event` behind all that wait.
+  /// Queues `event` after all that wait.
   virtual void post(Event event) = 0;
 
   /// One pass: runs what waits at its beginning, each to its end; when nothing does, sleeps until

@@ -6,7 +6,7 @@
 
 namespace gsm {
 
-/// What a serial port's control tells of the line, by the values of `CommEvent`.
+/// What a serial port's control reports of the line, by the values of `CommEvent`.
 enum class CommEvent {
   none = 0,
   send = 1,

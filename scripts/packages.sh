@@ -5,3 +5,5 @@ desktop_packages=(qt6-base-dev qt6-serialport-dev qt6-svg-dev libqt6svg6 fonts-d
 screen_packages=(xvfb xauth)
 client_packages=(gnokii-cli gammu)
 check_packages=(clang clang-format clang-tidy git)
+package_packages=(cmark-gfm dpkg-dev lintian desktop-file-utils appstream man-db git)
+picture_packages=("${screen_packages[@]}" pngquant)

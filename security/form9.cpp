@@ -40,7 +40,7 @@ void Form9::readStatus() try {
   // Ends silently.
 }
 
-// The digit stands behind the name's closing quote and a comma: ("PS",0). The name is looked for
+// The digit stands after the name's closing quote and a comma: ("PS",0). The name is looked for
 // anywhere, and its first place counts.
 void Form9::showState(const LockPage& page, const std::string& told) {
   const Position name = position(page.facility, told);

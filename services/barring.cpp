@@ -45,7 +45,7 @@ constexpr std::array kFacilities = {
                     " Current Status:Barr Incoing when  "},
 };
 
-// What stands behind each facility's place in the list of those not barred.
+// What stands after each facility's place in the list of those not barred.
 constexpr std::array kSeparators = {",      ", ",     ", ",     ", ",     ", ""};
 static_assert(kSeparators.size() == kFacilities.size());
 
@@ -77,7 +77,7 @@ void Form12::readBarring() {
     if (reply != 0) {
       const double status = number(modem().slice(reply + 7, 1));
       // Beside an error that isn't there lies the ninth character of the transcript, the quote
-      // behind the echoed command's equals sign.
+      // after the echoed command's equals sign.
       const Position classAfter =
           facility.classIn == Class::besideStatus ? reply : modem().position("ERROR");
       if (status == 1) ShowBarredStatus(facility, modem().slice(classAfter + 9, 1));

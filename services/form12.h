@@ -21,10 +21,10 @@ class Form12 : public FeatureWindow {
 
   // -- Call forwarding ---------------------------------------------------------------------------
 
-  /// Reads the reply about a reason (0 to 5) that the transcript holds, if it ends well and tells a
+  /// Reads the reply about a reason (0 to 5) that the transcript holds, if it ends well and has a
   /// state.
   void ReadForwardReply(int reason);
-  /// Shows on the reason's label what `reply` tells: state, class and number. `invalidArgument`
+  /// Shows on the reason's label what `reply` reports: state, class and number. `invalidArgument`
   /// when more follows than the shortest reply has, and it isn't a number in quotes.
   void ParseForwardReply(int reason, const std::string& reply);
   /// Puts the reason, the words of the state and of the class before what the reason's label holds;

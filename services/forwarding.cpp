@@ -49,8 +49,8 @@ constexpr std::array kStates = {
     StateWords{"4", "Call Forward  Deleted For"},
 };
 
-// Of a reply behind "+CCFC: ": a state, a comma, a class, two ends of line and "OK". A longer one
-// tells a number too, whose first character is the sixth.
+// Of a reply after "+CCFC: ": a state, a comma, a class, two ends of line and "OK". A longer one
+// reports a number too, whose first character is the sixth.
 constexpr std::size_t kShortestReply = 9;
 constexpr Position kNumber = 6;
 

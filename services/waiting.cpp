@@ -15,7 +15,7 @@ struct WaitingState {
   std::string_view reply;
   std::string_view words;
 };
-// The first that the transcript holds decides. A line with a number, which tells of a waiting call,
+// The first that the transcript holds decides. A line with a number, which reports a waiting call,
 // is the dispatcher's.
 constexpr std::array kStates = {
     WaitingState{"+CCWA: 1,1", "Current Status:Call Waiting Enabled"},

@@ -8,7 +8,7 @@
 
 namespace gsm::simulator {
 
-// The values behind a command's name, as the host wrote them.
+// The values after a command's name, as the host wrote them.
 class Arguments {
  public:
   Arguments() = default;

@@ -10,7 +10,7 @@ namespace gsm::simulator {
 
 namespace {
 
-// A gain goes in steps, and the modem tells the lower edge of the step that the value lies in.
+// A gain goes in steps, and the modem reports the lower edge of the step that the value lies in.
 constexpr int kSpeakerStep = 16;
 constexpr int kMicrophoneStep = 32;
 constexpr int kHighestEdge = 224;
@@ -29,7 +29,7 @@ constexpr CommandRow gain(std::string_view name) {
           .test = listNumbers<member>};
 }
 
-// The two algorithms share the mode and their own number, and differ in what stands behind.
+// The two algorithms share the mode and their own number, and differ in what stands after.
 template <int Profile::*... members>
 struct EchoValues {
   static constexpr CommandHandler kQuery =
@@ -96,7 +96,7 @@ Reply listMelodies(ModemState&, const Command& command) {
   return ok(headed(command, "(0-3),(0-15),0,(0-10)"));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kAudioCommands[] = {
     gain<&Profile::speakerGain, kSpeakerStep>("+VGR"),
     gain<&Profile::microphoneGain, kMicrophoneStep>("+VGT"),
     {.name = "+ECHO", .query = queryEcho, .set = setEcho, .test = Algorithm1::kTest},
@@ -107,6 +107,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows audioCommands() { return kRows; }
+CommandRows audioCommands() { return kAudioCommands; }
 
 }  // namespace gsm::simulator

@@ -5,12 +5,12 @@ namespace gsm::simulator {
 
 namespace {
 
-// The second value tells that the network offers the service.
+// The second value says that the network offers the service.
 Reply queryCallerId(ModemState& state, const Command& command) {
   return ok(headed(command, std::to_string(state.settings.profile.callerId) + ",1"));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kCallCommands[] = {
     {.name = "+CLIP",
      .query = queryCallerId,
      .set = setNumbers<&Profile::callerId>,
@@ -21,6 +21,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows callCommands() { return kRows; }
+CommandRows callCommands() { return kCallCommands; }
 
 }  // namespace gsm::simulator

@@ -70,7 +70,7 @@ std::string endDialing(ModemState& state, std::string_view) {
   return doneOr(state.calls.endDialing(result), "the modem isn't calling anybody");
 }
 
-constexpr ConsoleRow kRows[] = {
+constexpr ConsoleRow kCallConsole[] = {
     {"ring", "NUMBER|hidden", "somebody calls; it rings until answered or given up", ring},
     {"wait", "NUMBER|hidden", "somebody else calls during a call", wait},
     {"giveup", "[silent]", "who rings or waits gives up; silent: the host isn't told", giveUp},
@@ -81,6 +81,6 @@ constexpr ConsoleRow kRows[] = {
 
 }  // namespace
 
-ConsoleRows callConsole() { return kRows; }
+ConsoleRows callConsole() { return kCallConsole; }
 
 }  // namespace gsm::simulator

@@ -35,7 +35,7 @@ class CallList {
   // Announces the new call, and gives it the lowest free id.
   Call& add(CallState state, bool fromHost, std::string number);
 
-  // Removes a call of the list and returns its id, for `announceEnd` to tell when its time has
+  // Removes a call of the list and returns its id, for `announceEnd` to say when its time has
   // come: the host hears of the result first.
   int remove(const Call& call);
   void announceEnd(int id);

@@ -67,7 +67,7 @@ Reply queryActivity(ModemState& state, const Command& command) {
   return ok(headed(command, std::to_string(state.calls.all().empty() ? kReady : inCall)));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kCallStatusCommands[] = {
     {.name = "+CIND", .query = queryIndicators, .test = listIndicators},
     fromStandard({.name = "+CLCC", .execute = listCalls, .test = isSupported}),
     fromStandard({.name = "+CPAS", .execute = queryActivity, .test = isSupported}),
@@ -75,6 +75,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows callStatusCommands() { return kRows; }
+CommandRows callStatusCommands() { return kCallStatusCommands; }
 
 }  // namespace gsm::simulator

@@ -43,10 +43,10 @@ Reply listDumps(ModemState&, const Command& command) {
   return ok(headed(command, kModes.listing() + "," + kDumps.listing()));
 }
 
-constexpr CommandRow kRows[] = {{.name = "+CCED", .set = dumpCells, .test = listDumps}};
+constexpr CommandRow kCellCommands[] = {{.name = "+CCED", .set = dumpCells, .test = listDumps}};
 
 }  // namespace
 
-CommandRows cellCommands() { return kRows; }
+CommandRows cellCommands() { return kCellCommands; }
 
 }  // namespace gsm::simulator

@@ -18,11 +18,11 @@ struct Command {
   std::string name;
   Form form = Form::kExecute;
 
-  // Behind "=", or the digits behind the letter of a basic command such as E1.
+  // After "=", or the digits after the letter of a basic command such as E1.
   Arguments arguments;
 };
 
-// The commands of a command line, in order, with `body` being what stands behind "AT". Blanks and
+// The commands of a command line, in order, with `body` being what stands after "AT". Blanks and
 // the case of letters outside quotes don't count. Extended commands are joined by semicolons, basic
 // ones follow one another directly; D takes all the rest as its one argument.
 std::vector<Command> parseCommands(std::string_view body);

@@ -31,7 +31,7 @@ void append(std::vector<Value>& to, std::vector<Value>& from) {
   to.insert(to.end(), std::make_move_iterator(from.begin()), std::make_move_iterator(from.end()));
 }
 
-// Puts what a command answers behind what those before it did. The last result is the line's.
+// Puts what a command answers after what those before it did. The last result is the line's.
 Reply joined(Reply whole, Reply reply) {
   append(whole.information, reply.information);
   append(whole.afterwards, reply.afterwards);
@@ -43,7 +43,7 @@ Reply joined(Reply whole, Reply reply) {
 
 Reply execute(ModemState& state, std::span<const Command> commands);
 
-// Lets the commands behind one that takes its time wait for it, and be left out when it fails.
+// Lets the commands after one that takes its time wait for it, and be left out when it fails.
 BeginCommand withRest(ModemState& state, BeginCommand begin, std::span<const Command> rest) {
   if (rest.empty()) return begin;
   return [&state, begin = std::move(begin),

@@ -59,8 +59,8 @@ CommandRows lockCommands();
 // The handler for a command; null when there is none.
 CommandHandler handlerOf(const Command& command);
 
-// Does the commands of a line, with `body` being what stands behind "AT", up to the first that
-// fails. The reply holds what all of them tell, and the result of the last one done. Those behind a
+// Does the commands of a line, with `body` being what stands after "AT", up to the first that
+// fails. The reply holds what all of them say, and the result of the last one done. Those after a
 // command that takes its time wait for it.
 Reply executeLine(ModemState& state, std::string_view body);
 

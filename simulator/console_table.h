@@ -9,11 +9,11 @@
 
 namespace gsm::simulator {
 
-// Does one console command; `operands` is what stands behind its name, without the blanks around
+// Does one console command; `operands` is what stands after its name, without the blanks around
 // it. Returns what to print: nothing, an answer, or wrongUse.
 using ConsoleHandler = std::string (*)(ModemState& state, std::string_view operands);
 
-// A console command with what `help` tells of it.
+// A console command with what `help` says of it.
 struct ConsoleRow {
   std::string_view name;
   std::string_view operands;
@@ -43,7 +43,7 @@ inline std::string consoleError(std::string_view text) { return "error: " + std:
 // True for "on", false for "off"; nothing for any other word.
 std::optional<bool> parseSwitch(std::string_view word);
 
-// All commands, one on a line, with their operands and what they do; behind them the AT commands
+// All commands, one on a line, with their operands and what they do; after them the AT commands
 // whose answers no modem was heard to give.
 std::string consoleHelp();
 

@@ -40,7 +40,7 @@ Reply listFaxSpeeds(ModemState&, const Command&) {
   return ok(speeds);
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kDataCommands[] = {
     {.name = "+CBST",
      .query = queryNumbers<&Profile::bearerSpeed, &Profile::bearerName, &Profile::bearerElement>,
      .set = setNumbers<&Profile::bearerSpeed, &Profile::bearerName, &Profile::bearerElement>,
@@ -54,6 +54,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows dataCommands() { return kRows; }
+CommandRows dataCommands() { return kDataCommands; }
 
 }  // namespace gsm::simulator

@@ -27,7 +27,7 @@ constexpr std::string_view kIgnored = "TPW,@!-().";
 // The number in a dial string without its semicolon; nothing when it holds something else.
 std::optional<std::string> numberIn(std::string text) {
   std::erase_if(text, [](char c) { return kIgnored.find(c) != std::string_view::npos; });
-  // Whether the own number is shown, and a closed group: services that the number doesn't tell of.
+  // Whether the own number is shown, and a closed group: services that the number doesn't report.
   while (text.ends_with('I') || text.ends_with('G')) text.pop_back();
   return isPhoneNumber(text) ? std::optional(text) : std::nullopt;
 }
@@ -44,7 +44,7 @@ Reply callNumber(ModemState& state, const std::string& number) {
           }};
 }
 
-// ATDL tells the number before it dials.
+// ATDL reports the number before it dials.
 Reply redial(ModemState& state) {
   const std::string number = state.calls.lastNumber();
   if (number.empty()) return error();
@@ -53,7 +53,7 @@ Reply redial(ModemState& state) {
   return reply;
 }
 
-// A voice call has a semicolon behind its number. Data calls find nobody who takes them.
+// A voice call has a semicolon after its number. Data calls find nobody who takes them.
 Reply dial(ModemState& state, const Command& command) {
   std::string text = dialStringOf(command);
   const bool voice = text.ends_with(';');
@@ -91,7 +91,7 @@ Reply listTones(ModemState&, const Command& command) {
   return ok(headed(command, "(0-9,*,#,A-D)"));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kDialCommands[] = {
     {.name = "D", .execute = dial},
     {.name = "A", .execute = answer},
     {.name = "H", .execute = hangUp},
@@ -101,6 +101,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows dialCommands() { return kRows; }
+CommandRows dialCommands() { return kDialCommands; }
 
 }  // namespace gsm::simulator

@@ -25,7 +25,7 @@ class Fault {
 using FaultPointer = std::shared_ptr<const Fault>;
 
 // The fault that `text` describes, such as "garble 0.01"; otherwise the error, as a sentence that
-// tells what would have been right.
+// reports what would have been right.
 std::variant<FaultPointer, std::string> parseFault(std::string_view text);
 
 }  // namespace gsm::simulator

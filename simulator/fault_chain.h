@@ -9,7 +9,7 @@
 
 namespace gsm::simulator {
 
-// The faults of the line, one behind the other in the order in which they were added.
+// The faults of the line, one after the other in the order in which they were added.
 class FaultChain {
  public:
   // A chain without faults whose chance is drawn from `seed`.

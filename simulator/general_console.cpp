@@ -51,7 +51,7 @@ std::string quit(ModemState& state, std::string_view) {
   return {};
 }
 
-constexpr ConsoleRow kRows[] = {
+constexpr ConsoleRow kGeneralConsole[] = {
     {"state", "", "show how things stand", showState},
     {"help", "", "show this list", showHelp},
     {"quit", "", "end the simulator", quit},
@@ -59,6 +59,6 @@ constexpr ConsoleRow kRows[] = {
 
 }  // namespace
 
-ConsoleRows generalConsole() { return kRows; }
+ConsoleRows generalConsole() { return kGeneralConsole; }
 
 }  // namespace gsm::simulator

@@ -40,7 +40,7 @@ Reply information(ModemState& state, const Command& command) {
   }
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kIdentityCommands[] = {
     {.name = "I", .execute = information},
     {.name = "+CGMI", .execute = manufacturer, .test = isSupported},
     {.name = "+CGMM", .execute = model, .test = isSupported},
@@ -51,6 +51,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows identityCommands() { return kRows; }
+CommandRows identityCommands() { return kIdentityCommands; }
 
 }  // namespace gsm::simulator

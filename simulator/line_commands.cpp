@@ -40,7 +40,7 @@ Reply queryConstant(ModemState&, const Command&) {
   return ok(registerText(value));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kLineCommands[] = {
     profileSwitch<&Profile::echo>("E"),
     profileSwitch<&Profile::verbose>("V"),
     profileSwitch<&Profile::quiet>("Q"),
@@ -66,6 +66,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows lineCommands() { return kRows; }
+CommandRows lineCommands() { return kLineCommands; }
 
 }  // namespace gsm::simulator

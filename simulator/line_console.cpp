@@ -70,7 +70,7 @@ std::string changeFaults(ModemState& state, std::string_view operands) {
   return {};
 }
 
-constexpr ConsoleRow kRows[] = {
+constexpr ConsoleRow kLineConsole[] = {
     {"silent", "on|off", "hear nothing and say nothing, or be awake again", setSilent},
     {"unplug", "", "pull the plug: the port vanishes", unplug},
     {"plug", "", "put the plug back", plug},
@@ -84,6 +84,6 @@ constexpr ConsoleRow kRows[] = {
 
 }  // namespace
 
-ConsoleRows lineConsole() { return kRows; }
+ConsoleRows lineConsole() { return kLineConsole; }
 
 }  // namespace gsm::simulator

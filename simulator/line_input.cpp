@@ -8,7 +8,7 @@ namespace gsm::simulator {
 
 namespace {
 
-// Where the text behind the first "AT" starts; npos without one.
+// Where the text after the first "AT" starts; npos without one.
 std::size_t bodyStart(const std::string& text) {
   for (std::size_t at = 0; at + 1 < text.size(); ++at) {
     if (upper(text[at]) == 'A' && upper(text[at + 1]) == 'T') return at + 2;

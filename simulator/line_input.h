@@ -10,7 +10,7 @@ class LineInput {
  public:
   // What a byte did to the line.
   enum class Step {
-    kIgnored,  // a line feed behind a line's end, which some hosts send and no modem minds
+    kIgnored,  // a line feed after a line's end, which some hosts send and no modem minds
     kTaken,
     kLineEnded,
   };
@@ -21,7 +21,7 @@ class LineInput {
 
   Step take(char byte);
 
-  // The line that has just ended: what stands behind its first "AT", in whatever case. A line
+  // The line that has just ended: what stands after its first "AT", in whatever case. A line
   // without "AT" is no command line, and gets no answer.
   struct Line {
     bool isCommand = false;

@@ -10,7 +10,7 @@ namespace gsm::simulator {
 
 namespace {
 
-// The modem's own locks, in the order in which a query for all of them tells them. Those for parts
+// The modem's own locks, in the order in which a query for all of them shows them. Those for parts
 // of a network can't be used.
 enum class Lock { kPhone, kCard, kNetwork, kUnused };
 struct LockName {
@@ -72,7 +72,7 @@ Reply answerTo(ModemState& state, CodeCheck check) {
   return reply;
 }
 
-// One line, and no blank behind the colon.
+// One line, and no blank after the colon.
 Reply queryLocks(ModemState& state, const Command& command) {
   if (const auto trouble = simTrouble(state.sim.status())) return error(*trouble);
   std::string list;
@@ -158,13 +158,13 @@ Reply listPasswords(ModemState&, const Command& command) {
                    "(\"IR\",4),(\"AB\",4),(\"AG\",4),(\"AC\",4)"));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kLockCommands[] = {
     {.name = "+CLCK", .query = queryLocks, .set = setLock, .test = listFacilities},
     {.name = "+CPWD", .set = setPassword, .test = listPasswords},
 };
 
 }  // namespace
 
-CommandRows lockCommands() { return kRows; }
+CommandRows lockCommands() { return kLockCommands; }
 
 }  // namespace gsm::simulator

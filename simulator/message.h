@@ -36,10 +36,10 @@ struct Message {
   friend bool operator==(const Message&, const Message&) = default;
 };
 
-// What a read tells of a message behind its status: "\"0146290800\",,\"26/01/31,18:22:11+04\"".
+// What a read reports of a message after its status: "\"0146290800\",,\"26/01/31,18:22:11+04\"".
 std::string headerOf(const Message& message);
 
-// `header` with the message's text on the line behind it. A status report has none.
+// `header` with the message's text on the line after it. A status report has none.
 std::string withText(const std::string& header, const Message& message);
 
 // The message as a host in PDU mode gets it, by way of the service centre.

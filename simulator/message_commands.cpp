@@ -74,7 +74,7 @@ Reply listBroadcastModes(ModemState&, const Command& command) {
   return ok(headed(command, kBroadcastModes.listing()));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kMessageCommands[] = {
     profileNumbers<&Profile::textMode>("+CMGF"),
     profileNumbers<&Profile::messageNotices, &Profile::messageRoute, &Profile::broadcastRoute,
                    &Profile::reportRoute, &Profile::noticeBuffer>("+CNMI"),
@@ -96,6 +96,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows messageCommands() { return kRows; }
+CommandRows messageCommands() { return kMessageCommands; }
 
 }  // namespace gsm::simulator

@@ -52,7 +52,7 @@ std::string showMessages(ModemState& state, std::string_view) {
   return entries;
 }
 
-constexpr ConsoleRow kRows[] = {
+constexpr ConsoleRow kMessageConsole[] = {
     {"message", "NUMBER TEXT", "somebody sends a message; \\r \\n \\t \\\\ \\\" \\xHH in it",
      receive},
     {"broadcast", "TEXT", "the cell sends a page to all", page},
@@ -62,6 +62,6 @@ constexpr ConsoleRow kRows[] = {
 
 }  // namespace
 
-ConsoleRows messageConsole() { return kRows; }
+ConsoleRows messageConsole() { return kMessageConsole; }
 
 }  // namespace gsm::simulator

@@ -152,13 +152,13 @@ Reply writeMessage(ModemState& state, const Command& command) {
                     });
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kMessageSendCommands[] = {
     {.name = "+CMGS", .set = sendMessage, .test = isSupported},
     {.name = "+CMGW", .execute = writeMessage, .set = writeMessage, .test = isSupported},
 };
 
 }  // namespace
 
-CommandRows messageSendCommands() { return kRows; }
+CommandRows messageSendCommands() { return kMessageSendCommands; }
 
 }  // namespace gsm::simulator

@@ -166,7 +166,7 @@ Reply listDeletions(ModemState& state, const Command& command) {
                                 kDeletions.listing()));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kMessageStoreCommands[] = {
     {.name = "+CPMS",
      .query = withCard<queryMemories>,
      .set = withCard<selectMemories>,
@@ -181,6 +181,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows messageStoreCommands() { return kRows; }
+CommandRows messageStoreCommands() { return kMessageStoreCommands; }
 
 }  // namespace gsm::simulator

@@ -18,7 +18,7 @@ std::string describe(MessageFlaw flaw) {
   return "the text is longer than " + std::to_string(kLongestMessage) + " characters";
 }
 
-// Adds the message of a line; otherwise tells why there is none.
+// Adds the message of a line; otherwise says why there is none.
 std::string readLine(std::string_view line, MessageEntries& entries) {
   const auto location = parseNumber<int>(takeUpTo('\t', line));
   if (!location || !isMessageLocation(*location)) {

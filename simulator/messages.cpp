@@ -97,7 +97,7 @@ std::string Messages::told(std::string_view notice, const Message& message) cons
   return head + (message.fields.empty() ? "," : "") + std::to_string(length) + "\r\n" + digits;
 }
 
-// A notice of what has been kept has the name of the other one with an I behind it.
+// A notice of what has been kept has the name of the other one with an I after it.
 bool Messages::deliver(Way way, MessageStore& memory, std::string_view notice, Message message) {
   if (way == Way::kDrop) return true;
   const std::string name(notice);

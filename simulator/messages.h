@@ -34,7 +34,7 @@ class Messages {
 
   std::string serviceCentre = "+33639980000";
 
-  // Whether pages of the cell broadcast are taken, and of which kinds, as AT+CSCB tells them. Every
+  // Whether pages of the cell broadcast are taken, and of which kinds, as AT+CSCB shows them. Every
   // page here is of a kind that is taken.
   struct Broadcast {
     int mode = 0;  // 1 takes none

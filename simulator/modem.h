@@ -13,7 +13,7 @@
 namespace gsm::simulator {
 
 // A GSM modem at the end of a serial line, without the line and without the time: it is told what
-// the host writes, tells what reaches the host and when, and obeys a console at its side.
+// the host writes, reports what reaches the host and when, and obeys a console at its side.
 class Modem {
  public:
   // `timeline` and `store` must outlive the modem; what is pending on the timeline when the modem
@@ -31,7 +31,7 @@ class Modem {
   // The speed at which the modem listens and sends; kAutobaud when at any.
   int speed() const { return state_.speed(); }
 
-  // Does one line of the console and returns what to print, without a line end behind it. A line
+  // Does one line of the console and returns what to print, without a line end after it. A line
   // that can't be done changes nothing and returns a sentence that starts with "error:".
   std::string console(std::string_view line);
 

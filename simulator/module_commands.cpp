@@ -142,7 +142,7 @@ Reply listBatteryLevels(ModemState&, const Command& command) {
   return ok(headed(command, "(0),(0-100)"));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kModuleCommands[] = {
     {.name = "+CPHS", .query = queryCardFeatures, .set = changeCardFeature, .test = isSupported},
     {.name = "+WIOR", .set = readPin, .test = listPins},
     {.name = "+WIOW", .set = writePin, .test = listPinLevels},
@@ -152,6 +152,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows moduleCommands() { return kRows; }
+CommandRows moduleCommands() { return kModuleCommands; }
 
 }  // namespace gsm::simulator

@@ -49,16 +49,16 @@ std::string changeCell(ModemState& state, std::string_view) {
   return {};
 }
 
-constexpr ConsoleRow kRows[] = {
+constexpr ConsoleRow kModuleConsole[] = {
     {"pin", "N set|reset", "what is wired to pin 0 to 7 sets it or resets it", setPin},
     {"power", "on", "switch on again what AT+CPOF switched off", setPower},
-    {"battery", "N", "what AT+CIND? tells: 0 empty to 5 full", setBattery},
+    {"battery", "N", "what AT+CIND? reports: 0 empty to 5 full", setBattery},
     {"voicemail", "on|off", "a message waits in the voice mail, or none does", setVoiceMail},
     {"cell", "", "move to the neighbouring cell", changeCell},
 };
 
 }  // namespace
 
-ConsoleRows moduleConsole() { return kRows; }
+ConsoleRows moduleConsole() { return kModuleConsole; }
 
 }  // namespace gsm::simulator

@@ -13,7 +13,7 @@ struct VoiceMail {
   bool announced = false;  // the host wants to hear of a change
 };
 
-// The mail as the modem tells of it, for the first line, which is the card's only one.
+// The mail as the modem reports it, for the first line, which is the card's only one.
 inline std::string voiceMailLine(const VoiceMail& mail) {
   return mail.waiting ? "+WVMI: 1,1" : "+WVMI: 1,0";
 }

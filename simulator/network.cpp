@@ -56,7 +56,7 @@ void Network::enter(int status) {
   announce(kNotices);
 }
 
-// Only a notice with the place tells anything of another cell.
+// Only a notice with the place says anything of another cell.
 void Network::changeCell() {
   inSecondCell_ = !inSecondCell_;
   if (hasService()) announce(kNoticesWithPlace);

@@ -30,7 +30,7 @@ class Network {
   // Registered at home from the start when `registered` says so.
   Network(Timeline& timeline, const Settings& settings, Notices& notices, bool registered);
 
-  // What +CSQ tells: strength 0 to 31 and bit error rate 0 to 7, or 99 for unknown.
+  // What +CSQ reports: strength 0 to 31 and bit error rate 0 to 7, or 99 for unknown.
   int signal = 17;
   int bitErrorRate = 0;
 
@@ -48,10 +48,10 @@ class Network {
   // False abroad, where another network serves.
   bool isHome() const { return registration_ != kRoaming; }
 
-  // The registration as +CREG tells it: the status and, in mode 2 with service, the place.
+  // The registration as +CREG reports it: the status and, in mode 2 with service, the place.
   std::string registrationText() const { return placeText(settings_.profile.registrationNotices); }
 
-  // The same as +CGREG tells it.
+  // The same as +CGREG reports it.
   std::string packetRegistrationText() const { return placeText(packetNotices); }
 
   // The cell that serves the modem, or would with service, and the other one that it hears.

@@ -39,7 +39,7 @@ Reply listIndications(ModemState&, const Command& command) {
   return ok(headed(command, kWindRange.listing()));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kNetworkCommands[] = {
     {.name = "+CSQ", .execute = querySignal, .test = listSignals},
     {.name = "+CREG",
      .query = queryRegistration,
@@ -50,6 +50,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows networkCommands() { return kRows; }
+CommandRows networkCommands() { return kNetworkCommands; }
 
 }  // namespace gsm::simulator

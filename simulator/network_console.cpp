@@ -32,14 +32,14 @@ std::string setRegistration(ModemState& state, std::string_view operand) {
   return {};
 }
 
-constexpr ConsoleRow kRows[] = {
-    {"signal", "STRENGTH [ERROR-RATE]", "what AT+CSQ tells: 0 to 31, 99 for unknown", setSignal},
-    {"register", "STATUS", "what AT+CREG? tells: 0 no, 1 home, 2 searching, 3 denied, 5 roaming",
+constexpr ConsoleRow kNetworkConsole[] = {
+    {"signal", "STRENGTH [ERROR-RATE]", "what AT+CSQ reports: 0 to 31, 99 for unknown", setSignal},
+    {"register", "STATUS", "what AT+CREG? reports: 0 no, 1 home, 2 searching, 3 denied, 5 roaming",
      setRegistration},
 };
 
 }  // namespace
 
-ConsoleRows networkConsole() { return kRows; }
+ConsoleRows networkConsole() { return kNetworkConsole; }
 
 }  // namespace gsm::simulator

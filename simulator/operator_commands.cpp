@@ -88,7 +88,7 @@ Reply subscriber(ModemState& state, const Command&) {
   return ok(kSubscriber);
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kOperatorCommands[] = {
     fromStandard({.name = "+COPS", .query = queryOperator, .set = setOperator}),
     fromStandard({.name = "+CGREG",
                   .query = queryPacketRegistration,
@@ -103,6 +103,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows operatorCommands() { return kRows; }
+CommandRows operatorCommands() { return kOperatorCommands; }
 
 }  // namespace gsm::simulator

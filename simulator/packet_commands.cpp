@@ -65,11 +65,11 @@ Reply listContexts(ModemState&, const Command& command) {
   return ok(lines);
 }
 
-constexpr CommandRow kRows[] = {fromStandard(
+constexpr CommandRow kPacketCommands[] = {fromStandard(
     {.name = "+CGDCONT", .query = queryContexts, .set = defineContext, .test = listContexts})};
 
 }  // namespace
 
-CommandRows packetCommands() { return kRows; }
+CommandRows packetCommands() { return kPacketCommands; }
 
 }  // namespace gsm::simulator

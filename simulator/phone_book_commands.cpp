@@ -110,7 +110,7 @@ Reply listWriteLimits(ModemState& state, const Command& command) {
       headed(command, locationRange() + "," + numberLimit() + ",(129,145)," + nameLimit(state)));
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kPhoneBookCommands[] = {
     {.name = "+CPBS",
      .query = withSim<queryMemory>,
      .set = withSim<selectMemory>,
@@ -121,6 +121,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows phoneBookCommands() { return kRows; }
+CommandRows phoneBookCommands() { return kPhoneBookCommands; }
 
 }  // namespace gsm::simulator

@@ -21,7 +21,7 @@ std::string describe(EntryFlaw flaw, std::size_t nameRoom) {
   return "the name has a character that can't be in one";
 }
 
-// Adds the entry of a line; otherwise tells why there is none.
+// Adds the entry of a line; otherwise says why there is none.
 std::string readLine(std::string_view line, std::size_t nameRoom, PhoneBookEntries& entries) {
   const auto location = parseNumber<int>(takeUpTo('\t', line));
   if (!location || !isPhoneBookLocation(*location)) {

@@ -9,7 +9,7 @@
 
 namespace gsm::simulator {
 
-// The types of a phone number, as commands and notices tell them behind it.
+// The types of a phone number, as commands and notices give them after it.
 inline constexpr int kInternationalNumber = 145;  // starts with a plus
 inline constexpr int kPlainNumber = 129;
 
@@ -22,7 +22,7 @@ constexpr std::size_t lengthOfNumber(std::string_view number) {
   return number.size() - (number.starts_with('+') ? 1 : 0);
 }
 
-// True for digits, stars and hashes, one or more, behind a plus or alone.
+// True for digits, stars and hashes, one or more, after a plus or alone.
 inline bool isPhoneNumber(std::string_view text) {
   if (text.starts_with('+')) text.remove_prefix(1);
   return !text.empty() && std::all_of(text.begin(), text.end(),

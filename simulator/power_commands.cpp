@@ -40,7 +40,7 @@ Reply setFunctionality(ModemState& state, const Command& command) {
   return reply;
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kPowerCommands[] = {
     {.name = "+CPOF", .execute = powerOff, .test = isSupported},
     {.name = "+CFUN",
      .query = queryFunctionality,
@@ -50,6 +50,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows powerCommands() { return kRows; }
+CommandRows powerCommands() { return kPowerCommands; }
 
 }  // namespace gsm::simulator

@@ -46,7 +46,7 @@ Reply showProfile(ModemState& state, const Command& command) {
   }
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kProfileCommands[] = {
     {.name = "&F", .execute = restoreFactory},
     {.name = "&V", .execute = showProfile},
     {.name = "&W", .execute = storeProfile},
@@ -55,6 +55,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows profileCommands() { return kRows; }
+CommandRows profileCommands() { return kProfileCommands; }
 
 }  // namespace gsm::simulator

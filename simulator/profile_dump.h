@@ -7,7 +7,7 @@
 namespace gsm::simulator {
 
 // The four lines with which AT&V and ATI4 show a profile, separated by line ends, with no blank
-// behind their colons.
+// after their colons.
 std::string dumped(const Profile& profile);
 
 // An S register's value as the modem writes it: three digits.

@@ -20,7 +20,7 @@ inline constexpr int kUsualClasses = 7;
 // The sums that a command may name: a network has no use for the higher bits.
 inline constexpr Range kClassSums = {1, 255};
 
-// What stands behind status and class for a class with the service; nothing for one without.
+// What stands after status and class for a class with the service; nothing for one without.
 using ServiceOfClass = std::function<std::optional<std::string>(int serviceClass)>;
 
 // The answer to a query about the `asked` classes: one line for all of them when they stand alike,

@@ -135,7 +135,7 @@ Reply setWaiting(ModemState& state, const Command& command) {
   return given.has(1) ? askNetwork(state, change) : change();
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kServiceCommands[] = {
     {.name = "+CCFC", .set = setForwarding, .test = listForwardingReasons},
     {.name = "+CCWA",
      .query = queryNumbers<&Profile::callWaiting>,
@@ -146,6 +146,6 @@ constexpr CommandRow kRows[] = {
 
 }  // namespace
 
-CommandRows serviceCommands() { return kRows; }
+CommandRows serviceCommands() { return kServiceCommands; }
 
 }  // namespace gsm::simulator

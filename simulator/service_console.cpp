@@ -85,7 +85,7 @@ std::string lock(ModemState& state, std::string_view operands) {
   return {};
 }
 
-constexpr ConsoleRow kRows[] = {
+constexpr ConsoleRow kServiceConsole[] = {
     {"services", "", "show what the network forwards, bars and lets wait", showServices},
     {"bar", "AO|OI|OX|AI|IR CLASSES | unlock",
      "bar calls of the classes, a sum of 1 voice, 2 data, 4 fax, 8 messages; or allow new tries",
@@ -95,6 +95,6 @@ constexpr ConsoleRow kRows[] = {
 
 }  // namespace
 
-ConsoleRows serviceConsole() { return kRows; }
+ConsoleRows serviceConsole() { return kServiceConsole; }
 
 }  // namespace gsm::simulator

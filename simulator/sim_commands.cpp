@@ -39,12 +39,12 @@ Reply enterCode(ModemState& state, const Command& command) {
   return reply;
 }
 
-constexpr CommandRow kRows[] = {
+constexpr CommandRow kSimCommands[] = {
     {.name = "+CPIN", .query = queryPin, .set = enterCode, .test = isSupported},
 };
 
 }  // namespace
 
-CommandRows simCommands() { return kRows; }
+CommandRows simCommands() { return kSimCommands; }
 
 }  // namespace gsm::simulator

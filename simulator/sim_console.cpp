@@ -50,7 +50,7 @@ std::string showPhoneBook(ModemState& state, std::string_view) {
   return entries;
 }
 
-constexpr ConsoleRow kRows[] = {
+constexpr ConsoleRow kSimConsole[] = {
     {"phonebook", "", "show the card's entries: location, number and name", showPhoneBook},
     {"sim", "ready|pin|puk|blocked|failed|out|in", "change the card, take it out or put it in",
      changeSim},
@@ -58,6 +58,6 @@ constexpr ConsoleRow kRows[] = {
 
 }  // namespace
 
-ConsoleRows simConsole() { return kRows; }
+ConsoleRows simConsole() { return kSimConsole; }
 
 }  // namespace gsm::simulator

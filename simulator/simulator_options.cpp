@@ -133,7 +133,7 @@ std::variant<SimulatorOptions, std::string> parseOptions(std::span<const char* c
     if (row == nullptr) return "there is no option '" + std::string(arguments[at]) + "'";
     std::string_view value;
     if (!row->operand.empty()) {
-      if (++at == arguments.size()) return std::string(row->name) + " wants a value behind it";
+      if (++at == arguments.size()) return std::string(row->name) + " wants a value after it";
       value = arguments[at];
     }
     if (!row->apply(options, value)) return refusal(*row, value);

@@ -21,7 +21,7 @@ struct SimulatorOptions {
   bool help = false;
 };
 
-// Reads the arguments behind the program's name. Of an option given twice the last one counts,
+// Reads the arguments after the program's name. Of an option given twice the last one counts,
 // except --fault, which adds. Returns the error, as a sentence, when one isn't right.
 std::variant<SimulatorOptions, std::string> parseOptions(std::span<const char* const> arguments);
 

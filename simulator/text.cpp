@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 
-// The byte of one escape, with `text` standing behind the backslash; takes what it reads.
+// The byte of one escape, with `text` standing after the backslash; takes what it reads.
 std::optional<char> takeEscape(std::string_view& text) {
   if (text.empty()) return std::nullopt;
   const char kind = text.front();

@@ -25,7 +25,7 @@ void TextPrompt::open(Taker taker) {
   });
 }
 
-// A carriage return belongs to the text and gets another prompt for the line behind it.
+// A carriage return belongs to the text and gets another prompt for the line after it.
 std::size_t TextPrompt::take(std::string_view bytes) {
   const std::size_t stop = std::min(bytes.find_first_of(kStops), bytes.size());
   const bool stopped = stop < bytes.size();

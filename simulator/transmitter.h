@@ -40,7 +40,7 @@ class Transmitter {
   // What the framing leaves of a byte.
   int mask() const { return framing_.dataBits == 8 ? 0xFF : 0x7F; }
 
-  // Queues `bytes` behind all that was sent before, and calls `sent` once the last of them has
+  // Queues `bytes` after all that was sent before, and calls `sent` once the last of them has
   // left. Replies and unsolicited lines fall into pieces as the cutter says, echo and what the
   // console says don't. When more than 64 KiB are waiting, the bytes are lost, as in a real modem's
   // overrun; `sent` is called all the same.

@@ -47,7 +47,7 @@ void Form8::saveMessage() try {
   // Ends silently.
 }
 
-// Whether there is no number to send to, which a box then tells.
+// Whether there is no number to send to, which a box then reports.
 bool Form8::refuseWithoutNumber() {
   if (!Text1.Text.empty()) return false;
   platform().boxes.show("Please Enter Destination Number", "GSM");

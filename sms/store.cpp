@@ -12,7 +12,7 @@ namespace {
 struct EntryStatus {
   std::string_view word;
   int toAddress;            // from the word's first letter
-  std::string_view behind;  // stands behind the address
+  std::string_view behind;  // stands after the address
   int aroundNumber;         // from there back to the number's end, and the quote before it
   std::string_view kind;    // what is shown of it
   bool isShown = true;

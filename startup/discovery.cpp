@@ -71,7 +71,7 @@ void Form1::ScanForModem() {
   if (description == failure::portAlreadyOpen().description()) {
     PortIndex = successor(PortIndex);
     ScanForModem();
-    description.clear();  // the sweep behind it has used the description up: the box stays blank
+    description.clear();  // the sweep just made has used the description up: the box stays blank
   }
   platform().boxes.show(description);
 }

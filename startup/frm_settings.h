@@ -19,7 +19,7 @@ class frmSettings : public Window {
  public:
   explicit frmSettings(Panel& panel);
 
-  /// Opens the window on `control`, under the caption `title`. A box tells when `control` is null
+  /// Opens the window on `control`, under the caption `title`. A box says when `control` is null
   /// or is no serial control.
   void CommSettings(Object* control, const std::string& title);
 

@@ -45,10 +45,14 @@ Route audio(Panel& panel) {
       {"auto-answer on", inTurn({choose(window.Combo3, 7), click(window.Command5)}),
        "the modem has taken it", tells("Changes SuccessFul.AutoAnswer Enabled")},
       {"auto-answer read again", turn(window.TabStrip1, 3), "it is on",
-       [&] { return window.Combo3.Text.peek() == "8" && window.Text1.Text.peek() == "0"; }},
+       [&] {
+         return window.Combo3.Text.peek() == "8" &&
+                window.Label7.Caption.peek() == "Tone Lenght Currently Is0";
+       }},
       {"auto-answer off", inTurn({click(window.Option3), click(window.Command5)}),
        "the modem has taken it", tells("Changes SuccessFul.AutoAnswer Disabled")},
-      {"tone length sent", inTurn({type(window.Text1, "300"), click(window.Command6)}),
+      // In front of the zero that was read.
+      {"tone length sent", inTurn({type(window.Text1, "30"), click(window.Command6)}),
        "the modem has taken it", tells("Changes SuccessFul-TONE LENGTH")},
       {"sound left", close(window), "the panel is back",
        [&] { return form1.Visible.peek() && !window.isLoaded(); }},

@@ -71,7 +71,7 @@ Route phoneBook(Panel& panel) {
   };
 }
 
-// Not behind a call, whose watch writes its words over those of the new entry.
+// Not after a call, whose watch writes its words over those of the new entry.
 Route newEntry(Panel& panel) {
   Form3& calls = panel.form3;
   Form4& entry = panel.form4;

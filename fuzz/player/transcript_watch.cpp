@@ -24,7 +24,7 @@ std::string_view TranscriptWatch::waiting() const {
   return stillOpen ? std::string_view(arrived_) : std::string_view();
 }
 
-// The text has been cleared, or all that waits has been put behind it, or nothing (an event of the
+// The text has been cleared, or all that waits has been put after it, or nothing (an event of the
 // line that brings no bytes routes the text as it stands).
 void TranscriptWatch::changed(PropertyId property) {
   if (property != PropertyId::Text) return;

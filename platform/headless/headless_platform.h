@@ -14,8 +14,8 @@
 #include "platform/headless/headless_ports.h"
 #include "platform/headless/virtual_time.h"
 #include "platform/platform.h"
-#include "platform/recording_device.h"
 #include "platform/program.h"
+#include "platform/recording_device.h"
 #include "platform/settings_store.h"
 #include "platform/sqlite/sqlite_engine.h"
 

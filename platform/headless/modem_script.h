@@ -13,7 +13,7 @@ namespace gsm {
 class ModemScript : public LineModem {
  public:
   struct Chunk {
-    Duration after;  // behind the write
+    Duration after;  // after the write
     std::string text;
   };
   /// One reply: its chunks, each at its own time.

@@ -18,7 +18,7 @@ namespace gsm {
 /// in which they were queued.
 class VirtualTime : public Clock, public EventLoop {
  public:
-  /// `start` is the wall clock's time at instant 0. `isIdle` tells whether no handler is on the
+  /// `start` is the wall clock's time at instant 0. `isIdle` says whether no handler is on the
   /// stack.
   VirtualTime(LocalTime start, std::function<bool()> isIdle);
   ~VirtualTime() override { abandon(); }

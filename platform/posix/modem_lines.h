@@ -7,7 +7,7 @@
 
 namespace gsm {
 
-/// The modem lines of a serial port and its count of line errors, as the driver tells them at one
+/// The modem lines of a serial port and its count of line errors, as the driver reports them at one
 /// moment. Counts only rise, so a pulse shorter than the time between two looks shows too.
 struct LineState {
   bool cts = false;

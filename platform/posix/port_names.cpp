@@ -65,7 +65,7 @@ std::optional<fs::path> PortNames::device(int number) const {
 }
 
 // The kernel makes a fixed number of ttyS devices; those without a chip have type 0. Devices of
-// other drivers tell no type.
+// other drivers name no type.
 bool PortNames::isPlaceholder(dev_t device) const {
   const std::string number = std::to_string(major(device)) + ":" + std::to_string(minor(device));
   std::ifstream file(root_ / "sys/dev/char" / number / "type");

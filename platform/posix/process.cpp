@@ -24,7 +24,7 @@ std::string firstLineOf(const fs::path& file) {
   return line;
 }
 
-// "1234 (any name) S 1 ...": the letter behind the last parenthesis.
+// "1234 (any name) S 1 ...": the letter after the last parenthesis.
 char stateOf(pid_t id) {
   const std::string line = firstLineOf(folderOf(id) / "stat");
   const auto end = line.rfind(") ");

@@ -10,7 +10,7 @@
 
 namespace gsm {
 
-/// A serial device that tells why a port can't be opened, once for each reason, and goes on failing
+/// A serial device that says why a port can't be opened, once for each reason, and goes on failing
 /// as before. Most handlers end silently on such a failure, and somebody should learn of it.
 class TellingDevice : public SerialDevice {
  public:

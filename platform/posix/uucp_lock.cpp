@@ -32,7 +32,7 @@ std::string lockName(const fs::path& device) {
   return "LCK.." + name;
 }
 
-// What a lock file tells. Most programs write nothing but the process's number, some behind it the
+// What a lock file says. Most programs write nothing but the process's number, some after it the
 // program's name, the machine's and its start's, each on a line of its own.
 struct Content {
   pid_t holder = 0;

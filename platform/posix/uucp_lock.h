@@ -21,11 +21,11 @@ struct UucpLock {
 /// Many are left over from programs that were killed, and by now their process's number may be
 /// another's. So a file is believed only when its process lives, is of this machine and of this
 /// start of it where the file says of which, and doesn't show that it has the device not open. A
-/// file that tells no process may just be being written: it is believed while it is young. One
+/// file that names no process may just be being written: it is believed while it is young. One
 /// that names this very program is believed only while this program really keeps it.
 class UucpLocks {
  public:
-  /// How long a file that tells no process is believed.
+  /// How long a file that names no process is believed.
   static constexpr std::chrono::seconds kYoung{30};
 
   /// `root` is what the paths of the lock folders begin with.

@@ -45,7 +45,7 @@ std::string bytesOf(const QString& value, const std::string& option, int count,
   for (int i = 1; i < count; ++i) {
     std::string_view argument = arguments[i];
     if (argument.starts_with(withName)) argument.remove_prefix(withName.size());
-    const std::string bytes(argument);
+    std::string bytes(argument);
     if (QFile::decodeName(bytes.c_str()) == value) return bytes;
   }
   return QFile::encodeName(value).toStdString();

@@ -24,7 +24,7 @@ namespace gsm {
 /// What comes in is gathered into chunks. While the listener has no room nothing is read, and then
 /// the machine's own buffers fill up, which are small.
 ///
-/// Qt doesn't tell of a device that has gone; depending on the moment it reports read errors as
+/// Qt doesn't report a device that has gone; depending on the moment it reports read errors as
 /// fast as the processor goes, or nothing. So each error, and a look now and then, makes sure that
 /// the device still answers; one that doesn't is let go of, and writing fails from then on.
 class SerialLine : public std::enable_shared_from_this<SerialLine> {
@@ -83,7 +83,7 @@ class SerialLine : public std::enable_shared_from_this<SerialLine> {
   void drain();
   // Takes what Qt has read into the chunk that is being gathered.
   void gather();
-  // Tells of the chunk when it has ended, and else looks again when it will have.
+  // Reports the chunk when it has ended, and else looks again when it will have.
   void tellOfChunk();
   void tell(std::string_view bytes);
   void look();

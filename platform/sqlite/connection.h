@@ -44,7 +44,7 @@ class Connection {
   /// no such table. What only looks like a table, as a view does, is none.
   std::vector<std::string> columnsOf(const std::string& table) const;
 
-  /// Bytes of the file as they lie there, zeros behind its end. They are read through the library's
+  /// Bytes of the file as they lie there, zeros after its end. They are read through the library's
   /// own descriptor: opening and closing the file beside it would let go of its locks.
   template <std::size_t count>
   std::array<char, count> bytesAt(std::size_t offset) const {

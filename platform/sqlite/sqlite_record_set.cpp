@@ -220,7 +220,7 @@ void SqliteRecordSet::Delete() {
   Statement deletion(*connection_, "DELETE FROM " + table_ + " WHERE " + key_ + "=?1");
   deletion.bind(1, currentKey());
   deletion.mustChangeARow();
-  forgetChange();  // or it would be stored into the row behind
+  forgetChange();  // or it would be stored into the row after
   keys_.erase(keys_.begin() + static_cast<std::ptrdiff_t>(current_));
 }
 

@@ -11,7 +11,7 @@
 
 namespace gsm {
 
-/// An engine that tells of what goes wrong with a file, of each kind of failure once in its life,
+/// An engine that reports what goes wrong with a file, of each kind of failure once in its life,
 /// and goes on failing as before. Handlers end silently on such a failure, and somebody should
 /// learn of it. What a handler asks for in vain it keeps to itself.
 class TellingEngine : public DatabaseEngine {
@@ -27,7 +27,7 @@ class TellingEngine : public DatabaseEngine {
   class TellingDatabase;
   class TellingRecordSet;
 
-  /// What `work` gives for `file`; tells of its failure before it passes it on.
+  /// What `work` gives for `file`; reports its failure before it passes it on.
   template <class Work>
   auto telling(const std::filesystem::path& file, Work&& work);
   void tellOf(const std::filesystem::path& file, const RuntimeFailure& failure);

@@ -20,7 +20,7 @@ class EntryFile {
   // at all, for then a change would overwrite it.
   std::optional<std::string> read() const;
 
-  // Tells of each complaint about the text on standard error.
+  // Reports each complaint about the text on standard error.
   void complain(const std::vector<std::string>& complaints) const;
 
   // Replaces the file as a whole. False, with a message on standard error, when it can't.

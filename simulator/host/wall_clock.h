@@ -5,7 +5,7 @@
 
 namespace gsm::pty {
 
-// `time` in this place's time zone as a network tells it: "26/01/31,18:22:11+04", the zone being in
+// `time` in this place's time zone as a network gives it: "26/01/31,18:22:11+04", the zone being in
 // quarters of an hour.
 std::string networkTime(std::time_t time);
 

@@ -43,7 +43,7 @@ TEST_F(AnswerPage, ItsOptionsHideAndShowTheRings) {
   EXPECT_EQ(sent(), Texts{});
 }
 
-struct ReadRow {
+struct AnswerReadRow {
   std::string name;
   std::string reply;  // behind the echo
   bool disabled;
@@ -52,7 +52,7 @@ struct ReadRow {
   std::string status;
 };
 
-class AnswerRead : public AnswerPage, public ::testing::WithParamInterface<ReadRow> {};
+class AnswerRead : public AnswerPage, public ::testing::WithParamInterface<AnswerReadRow> {};
 
 TEST_P(AnswerRead, IsShown) {
   reply("ATS0?", GetParam().reply);
@@ -71,26 +71,29 @@ constexpr const char* kWait = "Please Wait......";
 
 INSTANTIATE_TEST_SUITE_P(
     Of, AnswerRead,
-    ::testing::Values(
-        ReadRow{"TwoRings", information("002"), false, true, "2",
-                "Auto Answer Enabled,Total Rings2"},
-        ReadRow{"NoRings", information("000"), true, false, "", "Auto Answer Disabled"},
-        ReadRow{"TenRings", information("010"), false, true, "10",
-                "Auto Answer Enabled,Total Rings10"},
-        ReadRow{"TheMostRings", information("255"), false, true, "255",
-                "Auto Answer Enabled,Total Rings255"},
-        ReadRow{"OneDigit", information("5"), false, true, "5", "Auto Answer Enabled,Total Rings5"},
-        ReadRow{"OneZero", information("0"), false, true, "0", "Auto Answer Enabled,Total Rings0"},
-        ReadRow{"AFraction", information("1.5"), false, true, "2",
-                "Auto Answer Enabled,Total Rings2"},
-        ReadRow{"AHalfBelowAnOddNumber", information("2.5"), false, true, "3",
-                "Auto Answer Enabled,Total Rings3"},
-        ReadRow{"TheResultAlone", kOk, false, true, "OK\r", "Auto Answer Enabled,Total RingsOK\r"},
-        ReadRow{"NothingBehindAnOlderResult", "\r\n", false, false, "", kWait},
-        ReadRow{"Refusal", kError, false, false, "", kWait},
-        ReadRow{"RefusalWithBothWords", "\r\nERROR\r\n\r\nOK\r\n", false, true, "ERR",
-                "Auto Answer Enabled,Total RingsERR"},
-        ReadRow{"TheEchoAlone", "", false, false, "", kWait}),
+    ::testing::Values(AnswerReadRow{"TwoRings", information("002"), false, true, "2",
+                                    "Auto Answer Enabled,Total Rings2"},
+                      AnswerReadRow{"NoRings", information("000"), true, false, "",
+                                    "Auto Answer Disabled"},
+                      AnswerReadRow{"TenRings", information("010"), false, true, "10",
+                                    "Auto Answer Enabled,Total Rings10"},
+                      AnswerReadRow{"TheMostRings", information("255"), false, true, "255",
+                                    "Auto Answer Enabled,Total Rings255"},
+                      AnswerReadRow{"OneDigit", information("5"), false, true, "5",
+                                    "Auto Answer Enabled,Total Rings5"},
+                      AnswerReadRow{"OneZero", information("0"), false, true, "0",
+                                    "Auto Answer Enabled,Total Rings0"},
+                      AnswerReadRow{"AFraction", information("1.5"), false, true, "2",
+                                    "Auto Answer Enabled,Total Rings2"},
+                      AnswerReadRow{"AHalfBelowAnOddNumber", information("2.5"), false, true, "3",
+                                    "Auto Answer Enabled,Total Rings3"},
+                      AnswerReadRow{"TheResultAlone", kOk, false, true, "OK\r",
+                                    "Auto Answer Enabled,Total RingsOK\r"},
+                      AnswerReadRow{"NothingBehindAnOlderResult", "\r\n", false, false, "", kWait},
+                      AnswerReadRow{"Refusal", kError, false, false, "", kWait},
+                      AnswerReadRow{"RefusalWithBothWords", "\r\nERROR\r\n\r\nOK\r\n", false, true,
+                                    "ERR", "Auto Answer Enabled,Total RingsERR"},
+                      AnswerReadRow{"TheEchoAlone", "", false, false, "", kWait}),
     RowName());
 
 TEST_F(AnswerPage, IsReadOnAnEmptyTranscript) {
@@ -147,14 +150,14 @@ struct ChangeRow {
 
 class AnswerChange : public AnswerPage, public ::testing::WithParamInterface<ChangeRow> {
  protected:
-  void choose(Chosen chosen) {
+  void pick(Chosen chosen) {
     if (chosen == Chosen::disable) click(form().Option3);
     if (chosen == Chosen::enable) click(form().Option4);
   }
 };
 
 TEST_P(AnswerChange, IsSentOrRefused) {
-  choose(GetParam().chosen);
+  pick(GetParam().chosen);
   setRings(GetParam().rings);
   leaveInTranscript("old");
   press(form().Command5);
@@ -198,13 +201,13 @@ INSTANTIATE_TEST_SUITE_P(
         ChangeRow{"NeitherWithoutRings", Chosen::none, "", {}}),
     RowName());
 
-struct OutcomeRow {
+struct AnswerOutcomeRow {
   std::string name;
   std::string reply;
   bool done;
 };
 
-class AnswerOutcome : public AnswerPage, public ::testing::WithParamInterface<OutcomeRow> {
+class AnswerOutcome : public AnswerPage, public ::testing::WithParamInterface<AnswerOutcomeRow> {
  protected:
   static constexpr const char* kRefused = "Changes UNSuccessFul.Try Again";
   void change(OptionButton& option, const std::string& command) {
@@ -243,12 +246,13 @@ TEST_P(AnswerOutcome, OfDisablingGivesItBack) {
   EXPECT_EQ(promptSays(), done ? "" : "AutoAnswer Enabled");
 }
 
-INSTANTIATE_TEST_SUITE_P(Is, AnswerOutcome,
-                         ::testing::Values(OutcomeRow{"Success", kOk, true},
-                                           OutcomeRow{"Refusal", kError, false},
-                                           OutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n", true},
-                                           OutcomeRow{"Neither", "\r\nsomething else\r\n", false}),
-                         RowName());
+INSTANTIATE_TEST_SUITE_P(
+    Is, AnswerOutcome,
+    ::testing::Values(AnswerOutcomeRow{"Success", kOk, true},
+                      AnswerOutcomeRow{"Refusal", kError, false},
+                      AnswerOutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n", true},
+                      AnswerOutcomeRow{"Neither", "\r\nsomething else\r\n", false}),
+    RowName());
 
 TEST_F(AnswerPage, AChangeWaitsASecond) {
   click(form().Option3);
@@ -264,7 +268,7 @@ TEST_F(AnswerPage, AChangeWaitsASecond) {
 TEST_F(AnswerPage, AChangeNeedsNoEcho) {
   replyWithoutEcho("ATS0=3", kOk);
   click(form().Option4);
-  choose(form().Combo3, 2);
+  pick(form().Combo3, 2);
   press(form().Command5);
   EXPECT_EQ(status(), "Changes SuccessFul.AutoAnswer Enabled");
 }

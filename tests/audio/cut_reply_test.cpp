@@ -92,7 +92,7 @@ TEST_P(CutAudioReply, OfTheToneLengthIsShownWholeOrNotAtAll) {
 TEST_P(CutAudioReply, ToTheAnswerIsSuccessWhenItsOkIsThere) {
   turnTo(answerAndDtmf);
   click(form().Option4);
-  choose(form().Combo3, 0);
+  pick(form().Combo3, 0);
   const bool whole = hasOk(answerCut("ATS0=1", kOk));
   press(form().Command5);
   EXPECT_EQ(status(),

@@ -26,7 +26,7 @@ class Echo : public AudioTest {
     return {&window.Slider3, &window.Slider4, &window.Slider5, &window.Slider6,
             &window.Slider7, &window.Slider8, &window.Slider9};
   }
-  void choose(const std::string& mode, const std::string& algorithm) {
+  void pick(const std::string& mode, const std::string& algorithm) {
     fill(form().Combo1, mode);
     fill(form().Combo2, algorithm);
   }
@@ -66,7 +66,7 @@ TEST_F(Echo, SwitchedToTheOtherAlgorithmIsSentWithFiveFields) {
   reply("AT+ECHO?", information("+ECHO: 1,1,15,3,10,7"));
   turnTo(toneAndEcho);
   sent();
-  AudioTest::choose(form().Combo2, 1);
+  AudioTest::pick(form().Combo2, 1);
   EXPECT_EQ(form().Combo2.Text.peek(), "3");
   EXPECT_EQ(frames(), Texts{"Frame7"});
   press(form().Command3);
@@ -113,7 +113,7 @@ TEST_P(EchoFrame, GoesWithTheAlgorithmThatIsChosen) {
       form().Frame6.Visible = before;
       form().Frame7.Visible = before;
     });
-    AudioTest::choose(form().Combo2, GetParam().item);
+    AudioTest::pick(form().Combo2, GetParam().item);
     EXPECT_EQ(frames(), GetParam().frames);
   }
   EXPECT_EQ(sent(), Texts{});
@@ -126,27 +126,27 @@ INSTANTIATE_TEST_SUITE_P(Of, EchoFrame,
                          RowName());
 
 TEST_F(Echo, TypingAnAlgorithmChangesNoFrame) {
-  AudioTest::choose(form().Combo2, 0);
-  choose("0", "3");
+  AudioTest::pick(form().Combo2, 0);
+  pick("0", "3");
   EXPECT_EQ(frames(), Texts{"Frame6"});
 }
 
 TEST_F(Echo, AnAlgorithmThatIsNoneOfTheTwoChangesNoFrame) {
   assign([this] { form().Combo2.AddItem("2"); });
-  AudioTest::choose(form().Combo2, 2);
+  AudioTest::pick(form().Combo2, 2);
   EXPECT_EQ(frames(), (Texts{"Frame6", "Frame7"}));
   expectAtRest();
 }
 
 TEST_F(Echo, AnAlgorithmThatIsNoNumberEndsTheProgram) {
   assign([this] { form().Combo2.AddItem("x"); });
-  AudioTest::choose(form().Combo2, 2);
+  AudioTest::pick(form().Combo2, 2);
   settle();
   EXPECT_EQ(boxes(), Texts{"Type mismatch"});
   EXPECT_TRUE(ended());
 }
 
-struct SentRow {
+struct SentEchoRow {
   std::string name;
   std::string mode;
   std::string algorithm;
@@ -154,10 +154,10 @@ struct SentRow {
   Texts sent;
 };
 
-class EchoSent : public Echo, public ::testing::WithParamInterface<SentRow> {};
+class EchoSent : public Echo, public ::testing::WithParamInterface<SentEchoRow> {};
 
 TEST_P(EchoSent, IsWhatTheWindowShows) {
-  choose(GetParam().mode, GetParam().algorithm);
+  pick(GetParam().mode, GetParam().algorithm);
   assign([this] {
     for (std::size_t i = 0; i < sliders().size(); ++i) {
       sliders()[i]->Value = GetParam().sliders[i];
@@ -180,34 +180,34 @@ const std::vector<int> kBetween = {1, 2, 3, 4, 5, 6, 65};
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, EchoSent,
-    ::testing::Values(SentRow{"FirstAtItsGreatest", "1", "1", kFar, {"AT+ECHO=1,1,15,3,31,31\r"}},
-                      SentRow{"ThirdAtItsGreatest", "1", "3", kFar, {"AT+ECHO=1,3,63,32767,256\r"}},
-                      SentRow{"FirstAtItsLeast", "0", "1", kNear, {"AT+ECHO=0,1,0,0,0,0\r"}},
-                      SentRow{"ThirdAtItsLeast", "0", "3", kNear, {"AT+ECHO=0,3,0,0,64\r"}},
-                      SentRow{"FirstInItsOrder", "0", "1", kBetween, {"AT+ECHO=0,1,1,2,3,4\r"}},
-                      SentRow{"ThirdInItsOrder", "0", "3", kBetween, {"AT+ECHO=0,3,5,6,65\r"}},
-                      SentRow{"WithoutAMode", "", "1", kNear, {"AT+ECHO=,1,0,0,0,0\r"}},
-                      SentRow{"WithoutAModeOfTheThird", "", "3", kNear, {"AT+ECHO=,3,0,0,64\r"}},
-                      SentRow{"AsTyped", "off", " 1 ", kNear, {"AT+ECHO=off, 1 ,0,0,0,0\r"}},
-                      SentRow{
-                          "OfANumberThatIsTheSame", "0", "3.0", kNear, {"AT+ECHO=0,3.0,0,0,64\r"}},
-                      SentRow{"NothingOfAnotherAlgorithm", "0", "2", kNear, {}},
-                      SentRow{"NothingBetweenTheAlgorithms", "0", "1.4", kNear, {}},
-                      SentRow{"NothingWithoutAnAlgorithm", "0", "", kNear, {}},
-                      SentRow{"NothingOfLetters", "0", "one", kNear, {}},
-                      SentRow{"NothingWithoutBoth", "", "", kNear, {}}),
+    ::testing::Values(
+        SentEchoRow{"FirstAtItsGreatest", "1", "1", kFar, {"AT+ECHO=1,1,15,3,31,31\r"}},
+        SentEchoRow{"ThirdAtItsGreatest", "1", "3", kFar, {"AT+ECHO=1,3,63,32767,256\r"}},
+        SentEchoRow{"FirstAtItsLeast", "0", "1", kNear, {"AT+ECHO=0,1,0,0,0,0\r"}},
+        SentEchoRow{"ThirdAtItsLeast", "0", "3", kNear, {"AT+ECHO=0,3,0,0,64\r"}},
+        SentEchoRow{"FirstInItsOrder", "0", "1", kBetween, {"AT+ECHO=0,1,1,2,3,4\r"}},
+        SentEchoRow{"ThirdInItsOrder", "0", "3", kBetween, {"AT+ECHO=0,3,5,6,65\r"}},
+        SentEchoRow{"WithoutAMode", "", "1", kNear, {"AT+ECHO=,1,0,0,0,0\r"}},
+        SentEchoRow{"WithoutAModeOfTheThird", "", "3", kNear, {"AT+ECHO=,3,0,0,64\r"}},
+        SentEchoRow{"AsTyped", "off", " 1 ", kNear, {"AT+ECHO=off, 1 ,0,0,0,0\r"}},
+        SentEchoRow{"OfANumberThatIsTheSame", "0", "3.0", kNear, {"AT+ECHO=0,3.0,0,0,64\r"}},
+        SentEchoRow{"NothingOfAnotherAlgorithm", "0", "2", kNear, {}},
+        SentEchoRow{"NothingBetweenTheAlgorithms", "0", "1.4", kNear, {}},
+        SentEchoRow{"NothingWithoutAnAlgorithm", "0", "", kNear, {}},
+        SentEchoRow{"NothingOfLetters", "0", "one", kNear, {}},
+        SentEchoRow{"NothingWithoutBoth", "", "", kNear, {}}),
     RowName());
 
-struct OutcomeRow {
+struct EchoOutcomeRow {
   std::string name;
   std::string reply;
   std::string status;
 };
 
-class EchoOutcome : public Echo, public ::testing::WithParamInterface<OutcomeRow> {};
+class EchoOutcome : public Echo, public ::testing::WithParamInterface<EchoOutcomeRow> {};
 
 TEST_P(EchoOutcome, IsTheDispatchersToTell) {
-  choose("0", "1");
+  pick("0", "1");
   reply("AT+ECHO=0,1,0,0,0,0", GetParam().reply);
   press(form().Command3);
   EXPECT_EQ(status(), GetParam().status);
@@ -217,14 +217,14 @@ TEST_P(EchoOutcome, IsTheDispatchersToTell) {
 
 INSTANTIATE_TEST_SUITE_P(
     Of, EchoOutcome,
-    ::testing::Values(OutcomeRow{"Success", kOk, "Changes SuccessFul"},
-                      OutcomeRow{"Refusal", kError, "UnSuccessFul.Try Again"},
-                      OutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n", "Changes SuccessFul"},
-                      OutcomeRow{"TheEchoAlone", "", "UnSuccessFul.Try Again"}),
+    ::testing::Values(EchoOutcomeRow{"Success", kOk, "Changes SuccessFul"},
+                      EchoOutcomeRow{"Refusal", kError, "UnSuccessFul.Try Again"},
+                      EchoOutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n", "Changes SuccessFul"},
+                      EchoOutcomeRow{"TheEchoAlone", "", "UnSuccessFul.Try Again"}),
     RowName());
 
 TEST_F(Echo, OfAModemWithoutEchoGetsNoOutcome) {
-  choose("0", "1");
+  pick("0", "1");
   replyWithoutEcho("AT+ECHO=0,1,0,0,0,0", kOk);
   press(form().Command3);
   EXPECT_EQ(status(), "before");
@@ -232,7 +232,7 @@ TEST_F(Echo, OfAModemWithoutEchoGetsNoOutcome) {
 }
 
 TEST_F(Echo, OfAClosedPortIsNotSent) {
-  choose("0", "1");
+  pick("0", "1");
   closePort();
   press(form().Command3);
   EXPECT_EQ(status(), "before");

@@ -220,11 +220,12 @@ TEST_F(EchoValues, AreFoundBehindMoreTextThanSixteenBitsCount) {
   }
 }
 
+// Though values stand where they would behind a key at the very beginning.
 TEST_F(EchoValues, OfNoPositionAreNone) {
-  leaveInTranscript("0,1,15,3,10,7\r\n\r\n");
+  leaveInTranscript("123450,1,15,3,10,7\r\n\r\n");
   inPanel([this] { form1().ShowEchoValues("0"); });
   run(0);
-  expectShown(unchanged("", "0,1,15,3,10,7\r\n\r\n"));
+  expectShown(unchanged("", "123450,1,15,3,10,7\r\n\r\n"));
 }
 
 }  // namespace

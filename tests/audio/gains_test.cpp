@@ -105,14 +105,14 @@ TEST_F(Gains, FollowTheSlidersToBothEndsAndNoFurther) {
   EXPECT_EQ(speakerGain(), "0");
 }
 
-struct SentRow {
+struct SentGainsRow {
   std::string name;
   std::string speaker;
   std::string microphone;
   Texts sent;
 };
 
-class GainsSent : public Gains, public ::testing::WithParamInterface<SentRow> {};
+class GainsSent : public Gains, public ::testing::WithParamInterface<SentGainsRow> {};
 
 // The labels are what goes out, wherever the sliders stand.
 TEST_P(GainsSent, AreTheLabels) {
@@ -132,14 +132,14 @@ TEST_P(GainsSent, AreTheLabels) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, GainsSent,
-    ::testing::Values(SentRow{"Both", "128", "64", {"AT+VGR=128\r", "AT+VGT=64\r"}},
-                      SentRow{"LeadingZeros", "064", "007", {"AT+VGR=064\r", "AT+VGT=007\r"}},
-                      SentRow{"SpeakerAlone", "128", "", {"AT+VGR=128\r"}},
-                      SentRow{"MicrophoneAlone", "", "64", {"AT+VGT=64\r"}},
-                      SentRow{"Neither", "", "", {}},
-                      SentRow{"WithBlanksAround", " 12", "7  ", {"AT+VGR=12\r", "AT+VGT=7\r"}},
-                      SentRow{"BlanksAlone", "   ", " ", {"AT+VGR=\r", "AT+VGT=\r"}},
-                      SentRow{
+    ::testing::Values(SentGainsRow{"Both", "128", "64", {"AT+VGR=128\r", "AT+VGT=64\r"}},
+                      SentGainsRow{"LeadingZeros", "064", "007", {"AT+VGR=064\r", "AT+VGT=007\r"}},
+                      SentGainsRow{"SpeakerAlone", "128", "", {"AT+VGR=128\r"}},
+                      SentGainsRow{"MicrophoneAlone", "", "64", {"AT+VGT=64\r"}},
+                      SentGainsRow{"Neither", "", "", {}},
+                      SentGainsRow{"WithBlanksAround", " 12", "7  ", {"AT+VGR=12\r", "AT+VGT=7\r"}},
+                      SentGainsRow{"BlanksAlone", "   ", " ", {"AT+VGR=\r", "AT+VGT=\r"}},
+                      SentGainsRow{
                           "WithALineEnd", "32\r", "5\r\n", {"AT+VGR=32\r\r", "AT+VGT=5\r\n\r"}}),
     RowName());
 

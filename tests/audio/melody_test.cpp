@@ -24,8 +24,8 @@ TEST_F(Melody, ItsPageListsCallTypesAndMelodies) {
 }
 
 TEST_F(Melody, ItsPageForgetsWhatWasChosen) {
-  choose(form().Combo4, 2);
-  choose(form().Combo5, 3);
+  pick(form().Combo4, 2);
+  pick(form().Combo5, 3);
   move(form().Slider11, 9);
   turnTo(melodies);
   EXPECT_EQ(form().Combo4.Text.peek(), "");
@@ -35,7 +35,7 @@ TEST_F(Melody, ItsPageForgetsWhatWasChosen) {
   EXPECT_EQ(form().Slider11.Value.peek(), 9);
 }
 
-struct SentRow {
+struct SentMelodyRow {
   std::string name;
   int callType;  // -1: typed
   std::string typed;
@@ -44,12 +44,12 @@ struct SentRow {
   Texts sent;
 };
 
-class MelodySent : public Melody, public ::testing::WithParamInterface<SentRow> {};
+class MelodySent : public Melody, public ::testing::WithParamInterface<SentMelodyRow> {};
 
 TEST_P(MelodySent, IsTheCallTypesPlaceTheVolumeAndTheMelodysText) {
-  const SentRow& row = GetParam();
+  const SentMelodyRow& row = GetParam();
   if (row.callType >= 0) {
-    choose(form().Combo4, row.callType);
+    pick(form().Combo4, row.callType);
   } else {
     fill(form().Combo4, row.typed);
   }
@@ -66,35 +66,35 @@ TEST_P(MelodySent, IsTheCallTypesPlaceTheVolumeAndTheMelodysText) {
 INSTANTIATE_TEST_SUITE_P(
     Rows, MelodySent,
     ::testing::Values(
-        SentRow{"VoiceCall", 0, "", 0, "0", {"AT+CRMP= 0,0,0,0\r"}},
-        SentRow{"DataCall", 1, "", 15, "10", {"AT+CRMP= 1,15,0,10\r"}},
-        SentRow{"FaxCall", 2, "", 7, "2", {"AT+CRMP= 2,7,0,2\r"}},
-        SentRow{"Message", 3, "", 1, "9", {"AT+CRMP= 3,1,0,9\r"}},
-        SentRow{"TypedMelody", 0, "", 1, "loud", {"AT+CRMP= 0,1,0,loud\r"}},
-        SentRow{"TypedCallTypeHasNoCode", -1, "Incoming SMS", 1, "1", {"AT+CRMP= ,1,0,1\r"}},
-        SentRow{"NothingWithoutACallType", -1, "", 1, "1", {}},
-        SentRow{"NothingWithoutAMelody", 0, "", 1, "", {}},
-        SentRow{"NothingWithoutBoth", -1, "", 1, "", {}}),
+        SentMelodyRow{"VoiceCall", 0, "", 0, "0", {"AT+CRMP= 0,0,0,0\r"}},
+        SentMelodyRow{"DataCall", 1, "", 15, "10", {"AT+CRMP= 1,15,0,10\r"}},
+        SentMelodyRow{"FaxCall", 2, "", 7, "2", {"AT+CRMP= 2,7,0,2\r"}},
+        SentMelodyRow{"Message", 3, "", 1, "9", {"AT+CRMP= 3,1,0,9\r"}},
+        SentMelodyRow{"TypedMelody", 0, "", 1, "loud", {"AT+CRMP= 0,1,0,loud\r"}},
+        SentMelodyRow{"TypedCallTypeHasNoCode", -1, "Incoming SMS", 1, "1", {"AT+CRMP= ,1,0,1\r"}},
+        SentMelodyRow{"NothingWithoutACallType", -1, "", 1, "1", {}},
+        SentMelodyRow{"NothingWithoutAMelody", 0, "", 1, "", {}},
+        SentMelodyRow{"NothingWithoutBoth", -1, "", 1, "", {}}),
     RowName());
 
 TEST_F(Melody, IsChosenFromTheLists) {
-  choose(form().Combo4, 3);
-  choose(form().Combo5, 10);
+  pick(form().Combo4, 3);
+  pick(form().Combo5, 10);
   press(form().Command7);
   EXPECT_EQ(sent(), Texts{"AT+CRMP= 3,0,0,10\r"});
 }
 
-struct OutcomeRow {
+struct MelodyOutcomeRow {
   std::string name;
   std::string reply;
   std::string status;
 };
 
-class MelodyOutcome : public Melody, public ::testing::WithParamInterface<OutcomeRow> {};
+class MelodyOutcome : public Melody, public ::testing::WithParamInterface<MelodyOutcomeRow> {};
 
 TEST_P(MelodyOutcome, IsShownAfterASecondAndClearsTheTranscript) {
-  choose(form().Combo4, 0);
-  choose(form().Combo5, 1);
+  pick(form().Combo4, 0);
+  pick(form().Combo5, 1);
   reply("AT+CRMP= 0,0,0,1", GetParam().reply);
   leaveInTranscript("\r\nOK\r\nERROR");
   click(form().Command7);
@@ -111,24 +111,24 @@ TEST_P(MelodyOutcome, IsShownAfterASecondAndClearsTheTranscript) {
 
 INSTANTIATE_TEST_SUITE_P(
     Of, MelodyOutcome,
-    ::testing::Values(OutcomeRow{"Success", kOk, "Changes SuccessFul-Ring Melody"},
-                      OutcomeRow{"Refusal", kError, "Changes UnSuccessFul-Ring Melody"},
-                      OutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n",
-                                 "Changes SuccessFul-Ring Melody"},
-                      OutcomeRow{"Neither", "\r\nsomething else\r\n", ""}),
+    ::testing::Values(MelodyOutcomeRow{"Success", kOk, "Changes SuccessFul-Ring Melody"},
+                      MelodyOutcomeRow{"Refusal", kError, "Changes UnSuccessFul-Ring Melody"},
+                      MelodyOutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n",
+                                       "Changes SuccessFul-Ring Melody"},
+                      MelodyOutcomeRow{"Neither", "\r\nsomething else\r\n", ""}),
     RowName());
 
 TEST_F(Melody, WaitsASecond) {
-  choose(form().Combo4, 0);
-  choose(form().Combo5, 1);
+  pick(form().Combo4, 0);
+  pick(form().Combo5, 1);
   click(form().Command7);
   run(1.02);
   EXPECT_EQ(waiting(), 0);
 }
 
 TEST_F(Melody, OfAClosedPortIsNotSentAndItsStatusIsEmpty) {
-  choose(form().Combo4, 0);
-  choose(form().Combo5, 1);
+  pick(form().Combo4, 0);
+  pick(form().Combo5, 1);
   closePort();
   press(form().Command7);
   EXPECT_EQ(status(), "");

@@ -142,7 +142,7 @@ TEST_F(OvertakenAudio, ClosingTheWindowInAChangeOfTheAnswerTakesItsReply) {
   turnTo(answerAndDtmf);
   reply("ATS0=1", kOk);
   click(form().Option4);
-  choose(form().Combo3, 0);
+  pick(form().Combo3, 0);
   sent();
   click(form().Command5);
   run(0.5);
@@ -229,19 +229,63 @@ TEST_F(OvertakenAudio, APollInTheReadOfTheEchoLeavesItsReplies) {
   EXPECT_EQ(form().Slider10.Value.peek(), 2);
 }
 
-// Its "OK" stands in the transcript too, and is taken for the change's own.
-TEST_F(OvertakenAudio, APollInAChangeMakesASuccessOfIt) {
+// The poll's "OK" stands in the transcript too, and is taken for the change's own.
+struct PolledRow {
+  std::string name;
+  AudioTab tab;
+  CommandButton Form6::*button;
+  std::string command;
+  std::string status;
+};
+
+class PolledChange : public OvertakenAudio, public ::testing::WithParamInterface<PolledRow> {
+ protected:
+  void fillPages() {
+    assign([this] {
+      Form6& window = form();
+      window.Label5.Caption = "1";
+      window.Combo1.Text = "0";
+      window.Combo2.Text = "1";
+      window.Option1.Value = true;
+      window.Option4.Value = true;
+      window.Combo3.Text = "1";
+      window.Text1.Text = "300";
+      if (window.Combo4.ListCount() > 0) window.Combo4.ListIndex = 3;
+      window.Combo5.Text = "1";
+    });
+  }
+};
+
+TEST_P(PolledChange, TakesTheResultOfThePollForItsOwn) {
   openWindow();
-  turnTo(answerAndDtmf);
-  reply("ATS0=1", kError);
-  click(form().Option4);
-  choose(form().Combo3, 0);
+  turnTo(GetParam().tab);
+  fillPages();
+  reply(GetParam().command, kError);
   pollInTheMiddle();
-  click(form().Command5);
+  sent();
+  click(form().*GetParam().button);
   run(4);
-  EXPECT_EQ(status(), "Changes SuccessFul.AutoAnswer Enabled");
+  EXPECT_EQ(sent(), (Texts{GetParam().command + "\r", "AT+CIND?\r"}));
+  EXPECT_EQ(status(), GetParam().status);
   endPolls();
+  expectAtRest();
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Of, PolledChange,
+    ::testing::Values(PolledRow{"TheGains", gains, &Form6::Command1, "AT+VGR=1",
+                                "Changes SuccessFul-Speaker"},
+                      PolledRow{"TheEcho", toneAndEcho, &Form6::Command3, "AT+ECHO=0,1,0,0,0,0",
+                                "Changes SuccessFul"},
+                      PolledRow{"TheSideTone", toneAndEcho, &Form6::Command4, "AT+SIDET=0,0",
+                                "Changes SuccessFul"},
+                      PolledRow{"TheAnswer", answerAndDtmf, &Form6::Command5, "ATS0=1",
+                                "Changes SuccessFul.AutoAnswer Enabled"},
+                      PolledRow{"TheToneLength", answerAndDtmf, &Form6::Command6, "AT+VTD=3",
+                                "Changes SuccessFul-TONE LENGTH"},
+                      PolledRow{"TheMelody", melodies, &Form6::Command7, "AT+CRMP= 3,0,0,1",
+                                "Changes SuccessFul-Ring Melody"}),
+    RowName());
 
 TEST_F(OvertakenAudio, ADeviceThatGoesEndsTheLoadWhereItIs) {
   beginLoad();

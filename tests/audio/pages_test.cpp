@@ -170,7 +170,7 @@ TEST_F(AudioBack, BackSendsNothingAndKeepsTheStatusLineAndTheTranscript) {
 TEST_F(AudioBack, TheNextOpeningFindsAllAsItWasLeft) {
   move(form().Slider1, 42);
   turnTo(toneAndEcho);
-  choose(form().Combo2, 1);
+  pick(form().Combo2, 1);
   turnTo(gains);
   turnTo(answerAndDtmf);
   fill(form().Text1, "700");

@@ -25,14 +25,15 @@ TEST_F(SideToneChange, WantsAnOption) {
   EXPECT_EQ(status(), "before");
 }
 
-struct SentRow {
+struct SentSideToneRow {
   std::string name;
   OptionButton Form6::*option;
   int level;
   std::string sent;
 };
 
-class SideToneSent : public SideToneChange, public ::testing::WithParamInterface<SentRow> {};
+class SideToneSent : public SideToneChange,
+                     public ::testing::WithParamInterface<SentSideToneRow> {};
 
 TEST_P(SideToneSent, IsTheOptionAndTheLevel) {
   click(form().*GetParam().option);
@@ -50,10 +51,10 @@ TEST_P(SideToneSent, IsTheOptionAndTheLevel) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, SideToneSent,
-    ::testing::Values(SentRow{"Enabled", &Form6::Option2, 2, "AT+SIDET=1,2\r"},
-                      SentRow{"EnabledAtItsLeast", &Form6::Option2, 0, "AT+SIDET=1,0\r"},
-                      SentRow{"DisabledWithItsLevel", &Form6::Option1, 3, "AT+SIDET=0,3\r"},
-                      SentRow{"DisabledAtItsLeast", &Form6::Option1, 0, "AT+SIDET=0,0\r"}),
+    ::testing::Values(SentSideToneRow{"Enabled", &Form6::Option2, 2, "AT+SIDET=1,2\r"},
+                      SentSideToneRow{"EnabledAtItsLeast", &Form6::Option2, 0, "AT+SIDET=1,0\r"},
+                      SentSideToneRow{"DisabledWithItsLevel", &Form6::Option1, 3, "AT+SIDET=0,3\r"},
+                      SentSideToneRow{"DisabledAtItsLeast", &Form6::Option1, 0, "AT+SIDET=0,0\r"}),
     RowName());
 
 TEST_F(SideToneChange, TheLastOptionCounts) {
@@ -71,13 +72,14 @@ TEST_F(SideToneChange, ItsOptionsLeaveThoseOfTheAnswerAlone) {
   EXPECT_TRUE(form().Option4.Value.peek());
 }
 
-struct OutcomeRow {
+struct SideToneOutcomeRow {
   std::string name;
   std::string reply;
   std::string status;
 };
 
-class SideToneOutcome : public SideToneChange, public ::testing::WithParamInterface<OutcomeRow> {};
+class SideToneOutcome : public SideToneChange,
+                        public ::testing::WithParamInterface<SideToneOutcomeRow> {};
 
 TEST_P(SideToneOutcome, IsTheDispatchersToTell) {
   click(form().Option2);
@@ -90,10 +92,11 @@ TEST_P(SideToneOutcome, IsTheDispatchersToTell) {
 
 INSTANTIATE_TEST_SUITE_P(
     Of, SideToneOutcome,
-    ::testing::Values(OutcomeRow{"Success", kOk, "Changes SuccessFul"},
-                      OutcomeRow{"Refusal", kError, "UnSuccessFul.Try Again"},
-                      OutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n", "Changes SuccessFul"},
-                      OutcomeRow{"TheEchoAlone", "", "UnSuccessFul.Try Again"}),
+    ::testing::Values(SideToneOutcomeRow{"Success", kOk, "Changes SuccessFul"},
+                      SideToneOutcomeRow{"Refusal", kError, "UnSuccessFul.Try Again"},
+                      SideToneOutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n",
+                                         "Changes SuccessFul"},
+                      SideToneOutcomeRow{"TheEchoAlone", "", "UnSuccessFul.Try Again"}),
     RowName());
 
 TEST_F(SideToneChange, OfAModemWithoutEchoGetsNoOutcome) {

@@ -68,8 +68,8 @@ TEST_F(SimulatedAudio, EchoOfBothAlgorithmsGoesRound) {
   EXPECT_EQ(form().Slider3.Value.peek(), 15);
   EXPECT_EQ(form().Slider6.Value.peek(), 31);
   EXPECT_FALSE(form().Frame7.Visible.peek());
-  choose(form().Combo1, 1);
-  choose(form().Combo2, 1);
+  pick(form().Combo1, 1);
+  pick(form().Combo2, 1);
   move(form().Slider8, 12345);
   move(form().Slider9, 100);
   press(form().Command3);
@@ -98,7 +98,7 @@ TEST_F(SimulatedAudio, AutoAnswerGoesRound) {
   turnTo(answerAndDtmf);
   EXPECT_TRUE(form().Option3.Value.peek());
   click(form().Option4);
-  choose(form().Combo3, 1);
+  pick(form().Combo3, 1);
   press(form().Command5);
   EXPECT_EQ(status(), "Changes SuccessFul.AutoAnswer Enabled");
   EXPECT_FALSE(panel().form5.Command1.Enabled.peek());
@@ -128,8 +128,8 @@ TEST_F(SimulatedAudio, ToneLengthGoesRound) {
 
 TEST_F(SimulatedAudio, MelodyPlays) {
   turnTo(melodies);
-  choose(form().Combo4, 1);
-  choose(form().Combo5, 10);
+  pick(form().Combo4, 1);
+  pick(form().Combo5, 10);
   move(form().Slider11, 15);
   press(form().Command7);
   EXPECT_EQ(status(), "Changes SuccessFul-Ring Melody");

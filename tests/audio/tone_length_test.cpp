@@ -21,14 +21,14 @@ class ToneLength : public AudioTest {
   int colour() { return form().Label7.ForeColor.peek(); }
 };
 
-struct ReadRow {
+struct ToneLengthReadRow {
   std::string name;
   std::string reply;
   std::string length;
   bool shown = true;
 };
 
-class ToneRead : public ToneLength, public ::testing::WithParamInterface<ReadRow> {};
+class ToneRead : public ToneLength, public ::testing::WithParamInterface<ToneLengthReadRow> {};
 
 TEST_P(ToneRead, IsShownInMilliseconds) {
   fill(form().Text1, "77");
@@ -43,23 +43,24 @@ TEST_P(ToneRead, IsShownInMilliseconds) {
 
 INSTANTIATE_TEST_SUITE_P(
     Of, ToneRead,
-    ::testing::Values(ReadRow{"OneDigit", information("+VTD: 3"), "300"},
-                      ReadRow{"TwoDigits", information("+VTD: 15"), "1500"},
-                      ReadRow{"TheMost", information("+VTD: 99"), "9900"},
-                      ReadRow{"Zero", information("+VTD: 0"), "0"},
-                      ReadRow{"WithoutABlankLosesADigit", information("+VTD:12"), "200"},
-                      ReadRow{"WithTwoBlanks", information("+VTD:  3"), "300"},
-                      ReadRow{"AFraction", information("+VTD: .5"), "50"},
-                      ReadRow{"BelowZero", information("+VTD: -1"), "-100"},
-                      ReadRow{"WithBothWords", "\r\nERROR\r\n+VTD: 4\r\n\r\nOK\r\n", "400"},
-                      ReadRow{"NoneOfThreeDigits", information("+VTD: 327"), "", false},
-                      ReadRow{"NoneOfThreeDigitsMore", information("+VTD: 328"), "", false},
-                      ReadRow{"NoneOfAWord", information("+VTD: a"), "", false},
-                      ReadRow{"NoneOfNothing", information("+VTD: "), "", false},
-                      ReadRow{"NoneWithoutAResult", "\r\n+VTD: 3\r\n", "", false},
-                      ReadRow{"NoneOfTheResultAlone", kOk, "", false},
-                      ReadRow{"NoneOfARefusal", kError, "", false},
-                      ReadRow{"NoneOfTheEchoAlone", "", "", false}),
+    ::testing::Values(
+        ToneLengthReadRow{"OneDigit", information("+VTD: 3"), "300"},
+        ToneLengthReadRow{"TwoDigits", information("+VTD: 15"), "1500"},
+        ToneLengthReadRow{"TheMost", information("+VTD: 99"), "9900"},
+        ToneLengthReadRow{"Zero", information("+VTD: 0"), "0"},
+        ToneLengthReadRow{"WithoutABlankLosesADigit", information("+VTD:12"), "200"},
+        ToneLengthReadRow{"WithTwoBlanks", information("+VTD:  3"), "300"},
+        ToneLengthReadRow{"AFraction", information("+VTD: .5"), "50"},
+        ToneLengthReadRow{"BelowZero", information("+VTD: -1"), "-100"},
+        ToneLengthReadRow{"WithBothWords", "\r\nERROR\r\n+VTD: 4\r\n\r\nOK\r\n", "400"},
+        ToneLengthReadRow{"NoneOfThreeDigits", information("+VTD: 327"), "", false},
+        ToneLengthReadRow{"NoneOfThreeDigitsMore", information("+VTD: 328"), "", false},
+        ToneLengthReadRow{"NoneOfAWord", information("+VTD: a"), "", false},
+        ToneLengthReadRow{"NoneOfNothing", information("+VTD: "), "", false},
+        ToneLengthReadRow{"NoneWithoutAResult", "\r\n+VTD: 3\r\n", "", false},
+        ToneLengthReadRow{"NoneOfTheResultAlone", kOk, "", false},
+        ToneLengthReadRow{"NoneOfARefusal", kError, "", false},
+        ToneLengthReadRow{"NoneOfTheEchoAlone", "", "", false}),
     RowName());
 
 TEST_F(ToneLength, ReadClearsTheTranscript) {
@@ -123,13 +124,13 @@ TEST_F(ToneLength, CannotBeBlank) {
   EXPECT_EQ(status(), "before");
 }
 
-struct SentRow {
+struct SentToneLengthRow {
   std::string name;
   std::string length;
   Texts sent;
 };
 
-class ToneSent : public ToneLength, public ::testing::WithParamInterface<SentRow> {};
+class ToneSent : public ToneLength, public ::testing::WithParamInterface<SentToneLengthRow> {};
 
 TEST_P(ToneSent, IsInTenthsOfASecond) {
   assign([this] { form().Text1.Text = GetParam().length; });
@@ -142,30 +143,32 @@ TEST_P(ToneSent, IsInTenthsOfASecond) {
   expectAtRest();
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, ToneSent,
-                         ::testing::Values(SentRow{"TheLeast", "300", {"AT+VTD=3\r"}},
-                                           SentRow{"TheMost", "1500", {"AT+VTD=15\r"}},
-                                           SentRow{"AHalfUpToTheEven", "350", {"AT+VTD=4\r"}},
-                                           SentRow{"AHalfDownToTheEven", "250", {"AT+VTD=2\r"}},
-                                           SentRow{"BelowAHalf", "49", {"AT+VTD=0\r"}},
-                                           SentRow{"AHalfDownToNothing", "50", {"AT+VTD=0\r"}},
-                                           SentRow{"AboveAHalf", "51", {"AT+VTD=1\r"}},
-                                           SentRow{"Nothing", "0", {"AT+VTD=0\r"}},
-                                           SentRow{"AboveTheRangeToo", "9999", {"AT+VTD=100\r"}},
-                                           SentRow{"TheGreatestNumber", "32767", {"AT+VTD=328\r"}},
-                                           SentRow{"NoneAboveTheGreatestNumber", "32768", {}},
-                                           SentRow{"NoneFarAbove", "99999", {}},
-                                           SentRow{"NoneOfLetters", "abc", {}}),
-                         RowName());
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ToneSent,
+    ::testing::Values(SentToneLengthRow{"TheLeast", "300", {"AT+VTD=3\r"}},
+                      SentToneLengthRow{"TheMost", "1500", {"AT+VTD=15\r"}},
+                      SentToneLengthRow{"AHalfUpToTheEven", "350", {"AT+VTD=4\r"}},
+                      SentToneLengthRow{"AHalfDownToTheEven", "250", {"AT+VTD=2\r"}},
+                      SentToneLengthRow{"BelowAHalf", "49", {"AT+VTD=0\r"}},
+                      SentToneLengthRow{"AHalfDownToNothing", "50", {"AT+VTD=0\r"}},
+                      SentToneLengthRow{"AboveAHalf", "51", {"AT+VTD=1\r"}},
+                      SentToneLengthRow{"Nothing", "0", {"AT+VTD=0\r"}},
+                      SentToneLengthRow{"AboveTheRangeToo", "9999", {"AT+VTD=100\r"}},
+                      SentToneLengthRow{"TheGreatestNumber", "32767", {"AT+VTD=328\r"}},
+                      SentToneLengthRow{"NoneAboveTheGreatestNumber", "32768", {}},
+                      SentToneLengthRow{"NoneFarAbove", "99999", {}},
+                      SentToneLengthRow{"NoneOfLetters", "abc", {}}),
+    RowName());
 
-struct OutcomeRow {
+struct ToneLengthOutcomeRow {
   std::string name;
   std::string reply;
   std::string status;
   int colour;
 };
 
-class ToneOutcome : public ToneLength, public ::testing::WithParamInterface<OutcomeRow> {};
+class ToneOutcome : public ToneLength,
+                    public ::testing::WithParamInterface<ToneLengthOutcomeRow> {};
 
 TEST_P(ToneOutcome, ColoursTheStatusAndLeavesTheTranscript) {
   fill(form().Text1, "300");
@@ -186,12 +189,12 @@ TEST_P(ToneOutcome, ColoursTheStatusAndLeavesTheTranscript) {
 
 INSTANTIATE_TEST_SUITE_P(
     Of, ToneOutcome,
-    ::testing::Values(OutcomeRow{"Success", kOk, "Changes SuccessFul-TONE LENGTH", kDarkBlue},
-                      OutcomeRow{"Refusal", kError, "Changes Unsuccessful,CHECK TONE LENGTH",
-                                 kDarkRed},
-                      OutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n",
-                                 "Changes SuccessFul-TONE LENGTH", kDarkBlue},
-                      OutcomeRow{"Neither", "\r\nsomething else\r\n", "before", kBlack}),
+    ::testing::Values(
+        ToneLengthOutcomeRow{"Success", kOk, "Changes SuccessFul-TONE LENGTH", kDarkBlue},
+        ToneLengthOutcomeRow{"Refusal", kError, "Changes Unsuccessful,CHECK TONE LENGTH", kDarkRed},
+        ToneLengthOutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n",
+                             "Changes SuccessFul-TONE LENGTH", kDarkBlue},
+        ToneLengthOutcomeRow{"Neither", "\r\nsomething else\r\n", "before", kBlack}),
     RowName());
 
 TEST_F(ToneLength, OfAModemWithoutEchoGetsItsOutcome) {

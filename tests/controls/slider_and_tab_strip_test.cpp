@@ -55,7 +55,7 @@ TEST_F(TabStripTest, EveryClickOnATabRunsClickAlsoOnTheSelectedOne) {
   EXPECT_EQ(takeNotes(), Notes({"1", "3", "3"}));
 }
 
-TEST_F(TabStripTest, ThereIsNoTabZeroAndNoneBehindTheLast) {
+TEST_F(TabStripTest, ThereIsNoTabZeroAndNoneAfterTheLast) {
   noteEach(window.TabStrip1.Click, "click");
   EXPECT_FALSE(window.TabStrip1.userTab(0));
   EXPECT_FALSE(window.TabStrip1.userTab(4));

@@ -97,7 +97,7 @@ TEST_F(WindowLoadingTest, TheLoadRunsOnTheDesignState) {
     window.Label1.Caption = "loaded";
   };
   takeNotes();
-  // The reference that loads goes on behind the load: its value is the last.
+  // The reference that loads goes on after the load: its value is the last.
   window.Label1.Caption = window.Label1.Caption + ", then assigned";
   EXPECT_EQ(takeNotes(), Notes({"Label"}));
   EXPECT_EQ(window.Label1.Caption.get(), "loaded, then assigned");

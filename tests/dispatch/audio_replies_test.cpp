@@ -122,7 +122,7 @@ struct BadGainRow {
 
 class BadGain : public AudioReplies, public ::testing::WithParamInterface<BadGainRow> {};
 
-TEST_P(BadGain, OfTheSpeakerStopsTheRoutingBehindTheLabels) {
+TEST_P(BadGain, OfTheSpeakerStopsTheRoutingAfterTheLabels) {
   const std::string text = "\r\n+VGR:" + GetParam().behindKey;
   route(text);
   EXPECT_EQ(audioStatus(), "Default Values-Speaker " + GetParam().gain);
@@ -133,7 +133,7 @@ TEST_P(BadGain, OfTheSpeakerStopsTheRoutingBehindTheLabels) {
   EXPECT_EQ(boxes(), std::vector<std::string>{});
 }
 
-TEST_P(BadGain, OfTheMicrophoneStopsTheRoutingBehindTheLabels) {
+TEST_P(BadGain, OfTheMicrophoneStopsTheRoutingAfterTheLabels) {
   const std::string text = "\r\n+VGT:" + GetParam().behindKey;
   route(text);
   EXPECT_EQ(audioStatus(), "Default Values-MicroPhone " + GetParam().gain);

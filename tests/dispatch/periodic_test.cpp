@@ -21,7 +21,7 @@ TEST_F(ClockLabel, ShowsTheTimeOfDayFromTheFirstSecondOn) {
   EXPECT_EQ(clock(), "10:05:08");
 }
 
-TEST_F(ClockLabel, GoesOnBehindMidnight) {
+TEST_F(ClockLabel, GoesOnAfterMidnight) {
   start({.now = {2026, 3, 1, 23, 59, 58}});
   run(1.1);
   EXPECT_EQ(clock(), "23:59:59");

@@ -72,7 +72,7 @@ TEST_F(RoutingOrder, AResultWordAloneDoesNothing) {
 // Tests that clear, and so take a ring along that shares the transcript with their key.
 class ClearingTest : public RoutingOrder, public ::testing::WithParamInterface<TextRow> {};
 
-TEST_P(ClearingTest, SwallowsARingBehindIt) {
+TEST_P(ClearingTest, SwallowsARingAfterIt) {
   receive(GetParam().text + unsolicited("RING"));
   settle();
   EXPECT_EQ(transcript(), "");
@@ -117,7 +117,7 @@ INSTANTIATE_TEST_SUITE_P(
 // Tests that don't clear, or whose further condition isn't met: a ring beside their key is heard.
 class PassingTest : public RoutingOrder, public ::testing::WithParamInterface<TextRow> {};
 
-TEST_P(PassingTest, KeepsTheTranscriptForTheTestsBehindIt) {
+TEST_P(PassingTest, KeepsTheTranscriptForTheTestsAfterIt) {
   route(GetParam().text);
   EXPECT_EQ(transcript(), GetParam().text);
   EXPECT_TRUE(hearsRing());

@@ -160,7 +160,7 @@ TEST_F(SignalReplies, CutBeforeTheirEndAreReadOnceTheyAreWhole) {
   EXPECT_EQ(registration(), "Registered/Home Network");
 }
 
-TEST_F(SignalReplies, BehindABadOneAreNeverRead) {
+TEST_F(SignalReplies, AfterABadOneAreNeverRead) {
   route("\r\n+CSQ: x,0\r\n");
   route(information("+CSQ: 15,99"));
   EXPECT_EQ(signal(), "");

@@ -81,7 +81,7 @@ TEST_F(LineNoise, LinesAtRandomEndNothing) {
 class CutReply : public ::testing::Test {
  protected:
   /// What the signal window shows when the reply to `command` comes in two pieces, the second
-  /// beginning behind `cut` characters, `gap` seconds later.
+  /// beginning after `cut` characters, `gap` seconds later.
   Json shownWhenCut(const std::string& command, const std::string& reply, std::size_t cut,
                     double gap) {
     DrivenPanel panel;

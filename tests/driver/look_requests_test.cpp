@@ -169,7 +169,7 @@ TEST_F(LookRequests, AMemberOfAnArrayIsClickedByItsIndex) {
   EXPECT_EQ(state()["refused"], 0);
 }
 
-TEST_F(LookRequests, WhatWasWrittenIsToldOnceWithItsTime) {
+TEST_F(LookRequests, WhatWasWrittenIsReportedOnceWithItsTime) {
   layComFile("9600,N,8,1 3\r\n");
   start();
   run(0.5);
@@ -178,7 +178,7 @@ TEST_F(LookRequests, WhatWasWrittenIsToldOnceWithItsTime) {
   EXPECT_EQ(answerTo(R"({"op":"sent"})"), R"({"ok":true,"writes":[]})");
 }
 
-TEST_F(LookRequests, WritesAreToldInTheirOrder) {
+TEST_F(LookRequests, WritesAreReportedInTheirOrder) {
   layComFile("9600,N,8,1 3\r\n");
   start();
   run(8);

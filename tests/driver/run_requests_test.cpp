@@ -188,7 +188,7 @@ TEST_F(RunRequests, SettlingEndsAtItsLimit) {
   EXPECT_EQ(settle()["at"], 620.0);
 }
 
-TEST_F(RunRequests, TheStateTellsOfThePortAndTheWindows) {
+TEST_F(RunRequests, TheStateReportsThePortAndTheWindows) {
   startWithOpenPort();
   const Json now = state();
   EXPECT_EQ(now["port"].dump(),

@@ -4,11 +4,11 @@
 #include <random>
 
 #include "tests/driver/driver_fixture.h"
+#include "tests/support/start_up_words.h"
 
 namespace gsm::driver {
 namespace {
 
-constexpr const char* kWelcome = "                      Welcome To Ormalin Telecom Application";
 constexpr const char* kImeiReply = "\r\n012345678901234\r\n\r\nOK\r\n";
 
 class StartUp : public DrivenPanel {
@@ -128,7 +128,7 @@ TEST_F(StartUpFailures, SeveralLinesAreTriedInTurnWhileNoModemIsAccepted) {
   settle();
   EXPECT_EQ(get("Form1.Label3.Caption"), "14400,N,8,1");
   EXPECT_EQ(get("Form1.Label1.Caption"), "Open");
-  // One probe of the first line, the sweep of ten speeds behind it, one probe of the second line;
+  // One probe of the first line, the sweep of ten speeds after it, one probe of the second line;
   // the third isn't read.
   const Texts writes = sent();
   EXPECT_EQ(std::count(writes.begin(), writes.end(), "AT+CGSN\r"), 12);

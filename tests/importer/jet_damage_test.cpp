@@ -57,7 +57,7 @@ TEST_P(JetDamage, AColumnOfPicturesIsRefused) {
             path() + " has neither texts nor numbers in column 'Name' in its table 'DATA'.");
 }
 
-TEST_P(JetDamage, FewerRowsThanTheDefinitionTellsOfAreDamage) {
+TEST_P(JetDamage, FewerRowsThanTheDefinitionReportsAreDamage) {
   Database lost = book();
   lost.tables[0].declared = 121;
   EXPECT_EQ(failureOf(fileOf(lost)),
@@ -82,7 +82,7 @@ TEST_P(JetDamage, AFileCutOffAnywhereIsRefused) {
   }
 }
 
-// Whatever is behind the header, it is rows or a failure, and soon.
+// Whatever is after the header, it is rows or a failure, and soon.
 TEST_P(JetDamage, GarbageIsSurvived) {
   const char* given = std::getenv("GSM_SEED");
   const unsigned seed = given != nullptr ? static_cast<unsigned>(std::strtoul(given, nullptr, 10))

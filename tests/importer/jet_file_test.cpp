@@ -127,7 +127,7 @@ TEST_P(JetFile, AScrambledFileIsRead) {
   EXPECT_EQ(entriesOf(scrambled), (Rows{{"1", "112", "Emergency"}}));
 }
 
-TEST_P(JetFile, MoreRowsThanTheDefinitionTellsOfAreTaken) {
+TEST_P(JetFile, MoreRowsThanTheDefinitionReportsAreTaken) {
   Database notClosed = book({entryOf("1", "111", "Anna"), entryOf("2", "222", "Bert")});
   notClosed.tables[0].declared = 0;
   EXPECT_EQ(entriesOf(notClosed).size(), 2u);

@@ -25,7 +25,7 @@ struct Row {
   enum class State {
     live,
     deleted,  // its bytes are still there
-    moved,    // a pointer stands in its place, and the row behind all others
+    moved,    // a pointer stands in its place, and the row after all others
   };
   std::vector<Cell> cells;
   State state = State::live;
@@ -36,7 +36,7 @@ struct Table {
   std::vector<Column> columns;
   std::vector<Row> rows;
   int type = 1;                           // in the catalogue: a table; 6 is a link to one
-  std::optional<std::uint32_t> declared;  // rows that the definition tells of, if not all live ones
+  std::optional<std::uint32_t> declared;  // rows that the definition counts, if not all live ones
 };
 
 struct Database {
@@ -51,7 +51,7 @@ struct Database {
 constexpr std::uint32_t kFirstLooseRow = 8;
 
 /// The file's bytes: header, usage maps (page 1), the catalogue's definition and its rows, then
-/// each table's definition with its data pages behind it.
+/// each table's definition with its data pages after it.
 std::string fileOf(const Database& database);
 
 /// The size of a page in bytes.
@@ -62,7 +62,7 @@ std::string int16(int value);
 std::string int32(std::uint32_t value);
 /// Jet 3: a text in Windows-1252 is stored as it is. Jet 4: two bytes a character.
 std::string text(Version version, const std::string& windows1252);
-/// Jet 4's short form: one byte a character, and a zero before and behind each run of those whose
+/// Jet 4's short form: one byte a character, and a zero before and after each run of those whose
 /// second byte is not zero.
 std::string compressedText(const std::u16string& characters);
 /// A memo of `size` bytes spread over rows, the first of which is a row of page 1.

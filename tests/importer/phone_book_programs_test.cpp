@@ -46,7 +46,7 @@ class PhoneBookPrograms : public ::testing::Test {
   TemporaryFolder folder_;
 };
 
-TEST_F(PhoneBookPrograms, ImportTellsHowManyRowsItTook) {
+TEST_F(PhoneBookPrograms, ImportSaysHowManyRowsItTook) {
   const Version version = Version::jet4;
   folder_.write("old.mdb", fileOf(oldBook(version, {entry(version, "1", "112", "Emergency"),
                                                     entry(version, "2", "113", "Anna")})));
@@ -57,7 +57,7 @@ TEST_F(PhoneBookPrograms, ImportTellsHowManyRowsItTook) {
   EXPECT_EQ(set->field("Name"), "Emergency");
 }
 
-TEST_F(PhoneBookPrograms, ImportTellsOfUnknownLetters) {
+TEST_F(PhoneBookPrograms, ImportReportsUnknownLetters) {
   Database book = oldBook(Version::jet4, {entry(Version::jet4, "1", "2", "Anna")});
   book.tables[0].rows[0].cells[2] = compressedText(u"Жанна");
   folder_.write("old.mdb", fileOf(book));
@@ -66,7 +66,7 @@ TEST_F(PhoneBookPrograms, ImportTellsOfUnknownLetters) {
             "Texts with letters that the program doesn't know, now \"?\": 1\n");
 }
 
-TEST_F(PhoneBookPrograms, ImportTellsWhatIsWrongWithTheOldFile) {
+TEST_F(PhoneBookPrograms, ImportSaysWhatIsWrongWithTheOldFile) {
   folder_.write("old.mdb", "no database");
   const Ran done = runImport(file("old.mdb") + " " + file("new.mdb"));
   EXPECT_EQ(done.output,
@@ -123,7 +123,7 @@ TEST_F(PhoneBookPrograms, CreateMakesAnEmptyBook) {
   EXPECT_TRUE(book->openRecordSet("Details")->isEof());
 }
 
-TEST_F(PhoneBookPrograms, ImportTellsOfControlCharacters) {
+TEST_F(PhoneBookPrograms, ImportReportsControlCharacters) {
   folder_.write("old.mdb",
                 fileOf(oldBook(Version::jet4, {entry(Version::jet4, "1", "1\r2", "Anna")})));
   EXPECT_EQ(runImport(file("old.mdb") + " " + file("new.mdb")).output,

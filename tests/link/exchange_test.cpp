@@ -86,7 +86,7 @@ TEST_F(Exchange, RoutesReceivedTextTwoSecondsLater) {
   EXPECT_EQ(transcript(), "");
 }
 
-TEST_F(Exchange, MovesTheCaretBehindTheTextThatRoutingLeft) {
+TEST_F(Exchange, MovesTheCaretAfterTheTextThatRoutingLeft) {
   receive("\r\nOK\r\n");
   run(1.99);
   EXPECT_EQ(caret(), 0);
@@ -136,7 +136,7 @@ TEST_F(Exchange, PutsTheMarkInFrontOfTextThatIsMarked) {
   EXPECT_EQ(caret(), 11);
 }
 
-TEST_F(Exchange, ShowsAResponseBetweenTwoLinesBehindTheOldText) {
+TEST_F(Exchange, ShowsAResponseBetweenTwoLinesAfterTheOldText) {
   leaveInTranscript("old");
   inPanel([this] { form1().ShowResponse("text"); });
   run(0);
@@ -183,7 +183,7 @@ TEST_F(Exchange, WhoseRoutingFailsKeepsTheTextAndFailsAtEachFurtherEvent) {
   EXPECT_EQ(transcript(), "\r\n+CREG: 2\r\n");
   EXPECT_EQ(caret(), 0);
 
-  receive(unsolicited("RING"));  // the ring's test stands behind that of the registration
+  receive(unsolicited("RING"));  // the ring's test stands after that of the registration
   settle();
   EXPECT_EQ(transcript(), "\r\n+CREG: 2\r\n\r\nRING\r\n");
   EXPECT_FALSE(form1().Timer2.Enabled.peek());

@@ -169,7 +169,7 @@ TEST_F(PausesBeforeMidnight, ThatEndBeforeItAreOrdinary) {
   EXPECT_EQ(gone_, Names{"went on"});
 }
 
-TEST_F(PausesBeforeMidnight, ThatSpanItOverflowAtTheFirstEventBehindIt) {
+TEST_F(PausesBeforeMidnight, ThatSpanItOverflowAtTheFirstEventAfterIt) {
   trappingHandler(30);
   inPanel([] {}, kMidnight - 0.5);
   inPanel([] {}, kMidnight + 0.01);
@@ -202,7 +202,7 @@ TEST_F(PausesBeforeMidnight, EndTheProgramWithTheDescriptionWhereNothingTrapsThe
   EXPECT_TRUE(ended());
 }
 
-TEST_F(PausesBeforeMidnight, ThatBeginBehindItAreOrdinaryAgain) {
+TEST_F(PausesBeforeMidnight, ThatBeginAfterItAreOrdinaryAgain) {
   trappingHandler(30);
   run(60);
   trappingHandler(2);

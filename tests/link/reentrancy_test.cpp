@@ -87,7 +87,7 @@ TEST_F(Reentrancy, ABranchThatClearsLeavesTheOlderCallsNothing) {
   EXPECT_EQ(waiting(), 0);
 }
 
-TEST_F(Reentrancy, AChunkThatComesBehindTheTwoSecondsIsRoutedByItself) {
+TEST_F(Reentrancy, AChunkThatComesAfterTheTwoSecondsIsRoutedByItself) {
   RoutingWatch watch(world());
   receive("one ", 0);
   receive("two", 2.1);

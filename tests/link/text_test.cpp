@@ -16,7 +16,7 @@ int failureOf(const std::function<void()>& action) {
   return 0;
 }
 
-TEST(Text, PositionsAndLengthsMayLieBehindWhat32BitsCount) {
+TEST(Text, PositionsAndLengthsMayLieBeyondWhat32BitsCount) {
   constexpr Position kFar = (Position{1} << 32) + 1;
   EXPECT_EQ(slice("text", kFar, 1), "");
   EXPECT_EQ(slice("text", 2, kFar), "ext");
@@ -54,7 +54,7 @@ TEST(Text, AReplysFieldIsTakenOffWithItsComma) {
   EXPECT_EQ(failureOf([&] { takeReplyField(reply); }), 5);
 }
 
-TEST(Text, BehindAReplysFieldStandsAsMuchAsOkStandsAt) {
+TEST(Text, AfterAReplysFieldStandsAsMuchAsOkStandsAt) {
   std::string shortened = "1,OK345678";
   EXPECT_EQ(takeReplyField(shortened), "1");
   EXPECT_EQ(shortened, "OK3");

@@ -6,13 +6,12 @@
 namespace gsm {
 namespace {
 
-constexpr const char* kBefore = "as it was";
 constexpr const char* kNote = "AutoAnswer Enabled";
 
 // The reply to the query of the rings before an answer, and what it makes of the call prompt.
 struct AutoAnswerRow {
   std::string name;
-  std::string reply;  // behind nothing: the whole of what comes
+  std::string reply;  // after nothing: the whole of what comes
   bool enabledBefore;
   bool enabled;
   std::string note;

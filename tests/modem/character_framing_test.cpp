@@ -10,8 +10,6 @@
 namespace gsm {
 namespace {
 
-constexpr const char* kBefore = "as it was";
-
 struct FramingRow {
   std::string name;
   std::string text;
@@ -64,62 +62,63 @@ TEST_P(CharacterFraming, IsShownAndUnlocksThePanel) {
   EXPECT_EQ(transcript(), "");
 }
 
-std::string reported(const std::string& digits) {
+std::string reportedFraming(const std::string& digits) {
   return "AT+ICF?\r\r\n+ICF: " + digits + "\r\n\r\nOK\r\n";
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Formats, CharacterFraming,
     ::testing::Values(
-        FramingRow{"AutoDetect", reported("0,4"),
+        FramingRow{"AutoDetect", reportedFraming("0,4"),
                    "Character Framing:Character Framing:Auto Detect Parity:NoneECHO:Enabled", 1,
                    12},
-        FramingRow{"EightTwo", reported("1,4"),
+        FramingRow{"EightTwo", reportedFraming("1,4"),
                    "Character Framing:8 Data,2 Stop Parity:NoneECHO:Enabled", 2, 12},
-        FramingRow{"EightParityOne", reported("2,4"),
+        FramingRow{"EightParityOne", reportedFraming("2,4"),
                    "Character Framing:8 Data,1 Parity,1 Stop Parity:NoneECHO:Enabled", 3, 12},
-        FramingRow{"EightOne", reported("3,4"),
+        FramingRow{"EightOne", reportedFraming("3,4"),
                    "Character Framing:8 Data,1 Stop Parity:NoneECHO:Enabled", 4, 12},
-        FramingRow{"SevenTwo", reported("4,4"),
+        FramingRow{"SevenTwo", reportedFraming("4,4"),
                    "Character Framing:7 Data,2 Stop Parity:NoneECHO:Enabled", 5, 12},
-        FramingRow{"SevenParityOne", reported("5,4"),
+        FramingRow{"SevenParityOne", reportedFraming("5,4"),
                    "Character Framing:7 Data,1 Parity,1 Stop Parity:NoneECHO:Enabled", 6, 12},
-        FramingRow{"SevenOne", reported("6,4"),
+        FramingRow{"SevenOne", reportedFraming("6,4"),
                    "Character Framing:7 Data,1 Stop Parity:NoneECHO:Enabled", 7, 12},
-        FramingRow{"Unknown", reported("7,4"), "Character Framing: Parity:NoneECHO:Enabled", 0,
-                   12}),
+        FramingRow{"Unknown", reportedFraming("7,4"), "Character Framing: Parity:NoneECHO:Enabled",
+                   0, 12}),
     RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Parities, CharacterFraming,
-    ::testing::Values(FramingRow{"Odd", reported("3,0"),
+    ::testing::Values(FramingRow{"Odd", reportedFraming("3,0"),
                                  "Character Framing:8 Data,1 Stop Parity:OddECHO:Enabled", 4, 8},
-                      FramingRow{"Even", reported("3,1"),
+                      FramingRow{"Even", reportedFraming("3,1"),
                                  "Character Framing:8 Data,1 Stop Parity:EvenECHO:Enabled", 4, 9},
-                      FramingRow{"Mark", reported("3,2"),
+                      FramingRow{"Mark", reportedFraming("3,2"),
                                  "Character Framing:8 Data,1 Stop Parity:MarkECHO:Enabled", 4, 10},
-                      FramingRow{"Space", reported("3,3"),
+                      FramingRow{"Space", reportedFraming("3,3"),
                                  "Character Framing:8 Data,1 Stop Parity:SpaceECHO:Enabled", 4, 11},
-                      FramingRow{"None", reported("3,4"),
+                      FramingRow{"None", reportedFraming("3,4"),
                                  "Character Framing:8 Data,1 Stop Parity:NoneECHO:Enabled", 4, 12},
-                      FramingRow{"Unknown", reported("3,5"),
+                      FramingRow{"Unknown", reportedFraming("3,5"),
                                  "Character Framing:8 Data,1 Stop ECHO:Enabled", 4, 0}),
     RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     OddReplies, CharacterFraming,
     ::testing::Values(
-        FramingRow{"BothUnknown", reported("9,9"), "Character Framing: ECHO:Enabled", 0, 0},
-        FramingRow{"Letters", reported("x,y"), "Character Framing: ECHO:Enabled", 0, 0},
+        FramingRow{"BothUnknown", reportedFraming("9,9"), "Character Framing: ECHO:Enabled", 0, 0},
+        FramingRow{"Letters", reportedFraming("x,y"), "Character Framing: ECHO:Enabled", 0, 0},
         FramingRow{"WithoutTheBlank", "+ICF:3,4\r\n", "Character Framing: ECHO:Enabled", 0, 0},
         FramingRow{"CutBehindTheWord", "+ICF:", "Character Framing: ECHO:Enabled", 0, 0},
         FramingRow{"CutBehindTheFormat", "+ICF: 3", "Character Framing:8 Data,1 Stop ECHO:Enabled",
                    4, 0},
-        FramingRow{"WithOneDigit", reported("3"), "Character Framing:8 Data,1 Stop ECHO:Enabled", 4,
-                   0},
+        FramingRow{"WithOneDigit", reportedFraming("3"),
+                   "Character Framing:8 Data,1 Stop ECHO:Enabled", 4, 0},
         FramingRow{"TheFirstOfTwo", "+ICF: 3,4\r\n+ICF: 5,0\r\n",
                    "Character Framing:8 Data,1 Stop Parity:NoneECHO:Enabled", 4, 12},
-        FramingRow{"OnTopOfTheSpeed", "AT+IPR?\r\r\n+IPR: 9600\r\n\r\nOK\r\n" + reported("1,0"),
+        FramingRow{"OnTopOfTheSpeed",
+                   "AT+IPR?\r\r\n+IPR: 9600\r\n\r\nOK\r\n" + reportedFraming("1,0"),
                    "Character Framing:8 Data,2 Stop Parity:OddECHO:Enabled", 2, 8}),
     RowName());
 
@@ -128,7 +127,7 @@ TEST_F(Framing, UnknownDigitsLeaveTheOptionsThatWereSet) {
     panel().form15.Option6.Value = true;
     panel().form15.Option9.Value = true;
   });
-  read(reported("8,7"), &Form1::ShowCharacterFraming);
+  read(reportedFraming("8,7"), &Form1::ShowCharacterFraming);
   EXPECT_EQ(set(), numbers(6, 9));
 }
 
@@ -165,7 +164,7 @@ TEST_F(Framing, UnlocksTheButtonsInTheirOrder) {
   watch(panel().form20.Timer1, PropertyId::Enabled, "Form20.Timer1");
   watch(form.Text1, PropertyId::Text, "Text1");
   inPanel([this] {
-    form1().Text1.Text = reported("3,4");
+    form1().Text1.Text = reportedFraming("3,4");
     form1().ShowCharacterFraming();
   });
   run(0);

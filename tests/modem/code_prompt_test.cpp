@@ -10,19 +10,6 @@ namespace {
 // What the prompt sends, by what stands in it and what of it is on view.
 class CodePrompt : public CodePromptTest {};
 
-TEST_F(CodePrompt, IsDesignedForBothCodes) {
-  startAtPrompt("SIM PUK");
-  EXPECT_EQ(prompt().Caption.peek(), "");
-  EXPECT_EQ(prompt().Frame1.Caption.peek(), "SIM PIN");
-  EXPECT_EQ(prompt().Label1.Caption.peek(), "Enter SIM PIN");
-  EXPECT_EQ(prompt().Label2.Caption.peek(), "Enter PUK ");
-  EXPECT_EQ(prompt().Label3.Caption.peek(), "");
-  EXPECT_EQ(prompt().Command1.Caption.peek(), "&Ok");
-  EXPECT_TRUE(prompt().Text1.isMasked());
-  EXPECT_FALSE(prompt().Text2.isMasked());
-  EXPECT_EQ(parts(), kPukForm);
-}
-
 TEST_F(CodePrompt, MakesTheProgramsFolderTheCurrentOne) {
   startAtPrompt("SIM PIN");
   EXPECT_EQ(machine().files.path("Model.txt"), folder() / "Model.txt");
@@ -217,7 +204,7 @@ TEST_P(CodeMode, DecidesHowARefusalIsTaken) {
   });
   enterPin("1234");
   settle();
-  EXPECT_EQ(logBehindTheCheck(), GetParam().log);
+  EXPECT_EQ(logAfterTheCheck(), GetParam().log);
   EXPECT_EQ(refusals(), GetParam().name == "OfThePin" ? "1" : "0");
   EXPECT_EQ(transcript(), GetParam().log.empty() ? "AT+CPIN=1234\r\r\nERROR\r\n" : "");
 }

@@ -51,8 +51,8 @@ class CodePromptTest : public HealthyModemTest {
     const Texts lines = log();
     return std::count(lines.begin(), lines.end(), line);
   }
-  /// The log behind the line of the SIM check.
-  Texts logBehindTheCheck() {
+  /// The log after the line of the SIM check.
+  Texts logAfterTheCheck() {
     const Texts lines = log();
     const auto check = std::find(lines.begin(), lines.end(), "Check SIM PIN");
     return check == lines.end() ? Texts{} : Texts(check + 1, lines.end());

@@ -10,9 +10,7 @@
 namespace gsm {
 namespace {
 
-constexpr const char* kBefore = "as it was";
-
-// The maker, model and revision that the modem tells.
+// The maker, model and revision that the modem reports.
 class Identity : public OpenPortTest {
  protected:
   void SetUp() override {
@@ -51,7 +49,7 @@ struct TextRow {
 
 class Manufacturer : public Identity, public ::testing::WithParamInterface<TextRow> {};
 
-TEST_P(Manufacturer, IsCutOutEightBehindTheEcho) {
+TEST_P(Manufacturer, IsCutOutEightAfterTheEcho) {
   receiveAll(GetParam().received);
   EXPECT_EQ(maker(), GetParam().label);
   EXPECT_EQ(heading(), "ManuFacturer And Model Details ");
@@ -79,7 +77,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 class Revision : public Identity, public ::testing::WithParamInterface<TextRow> {};
 
-TEST_P(Revision, IsCutOutSevenBehindTheEchoAndSaved) {
+TEST_P(Revision, IsCutOutSevenAfterTheEchoAndSaved) {
   receiveAll(GetParam().received);
   EXPECT_EQ(revision(), GetParam().label);
   EXPECT_EQ(visible(), (std::vector<bool>{false, false, true}));
@@ -165,7 +163,7 @@ TEST_F(Identity, ComesInAsManyChunksAsItLikes) {
   EXPECT_EQ(transcript(), "");
 }
 
-TEST_F(Identity, ImeiIsCutOutTenBehindTheEcho) {
+TEST_F(Identity, ImeiIsCutOutTenAfterTheEcho) {
   leaveInTranscript(std::string("AT+CGSN\r") + kImeiReply);
   inPanel([this] { form1().ShowImei(1); });
   run(0);
@@ -174,7 +172,7 @@ TEST_F(Identity, ImeiIsCutOutTenBehindTheEcho) {
   EXPECT_EQ(transcript(), "");
 }
 
-TEST_F(Identity, ImeiOutOfReachIsToldInABox) {
+TEST_F(Identity, ImeiOutOfReachIsReportedInABox) {
   leaveInTranscript("text");
   inPanel([this] { form1().ShowImei(-10); });
   run(0);

@@ -45,7 +45,7 @@ const std::vector<Exchange> kReduced = {
     {"Framing", "AT+ICF?", information("+ICF: 3,4")},
 };
 // What comes before them in a start-up.
-const std::vector<Exchange> kBefore = {
+const std::vector<Exchange> kStartUp = {
     {"Imei", "AT+CGSN", kImeiReply},
     {"FirstAttention", "AT", kOk},
     {"SimStatus", "AT+CPIN?", unsolicited("+CPIN: READY")},
@@ -215,12 +215,12 @@ INSTANTIATE_TEST_SUITE_P(
         GarbageRow{"Framing", "AT+ICF?", 0, End::locked, End::locked, End::locked}),
     RowName());
 
-// A modem that is lost behind the answer to one command of the start-up.
+// A modem that is lost after the answer to one command of the start-up.
 class ModemLostInTheMiddle : public HealthyModemTest,
                              public ::testing::WithParamInterface<std::size_t> {
  protected:
   static std::vector<Exchange> rows() {
-    std::vector<Exchange> all = kBefore;
+    std::vector<Exchange> all = kStartUp;
     all.insert(all.end(), kFull.begin(), kFull.end());
     return all;
   }
@@ -281,11 +281,11 @@ TEST_P(ModemLostInTheMiddle, WithItsPortGoneEndsTheSequenceAtTheNextWrite) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, ModemLostInTheMiddle,
-                         ::testing::Range<std::size_t>(0, kBefore.size() + kFull.size()),
+                         ::testing::Range<std::size_t>(0, kStartUp.size() + kFull.size()),
                          [](const auto& row) {
-                           return row.param < kBefore.size()
-                                      ? kBefore[row.param].name
-                                      : kFull[row.param - kBefore.size()].name;
+                           return row.param < kStartUp.size()
+                                      ? kStartUp[row.param].name
+                                      : kFull[row.param - kStartUp.size()].name;
                          });
 
 }  // namespace

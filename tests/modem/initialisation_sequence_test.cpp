@@ -11,11 +11,12 @@
 #include "settings/form15.h"
 #include "tests/support/healthy_modem_test.h"
 #include "tests/support/property_watch.h"
+#include "tests/support/start_up_words.h"
 
 namespace gsm {
 namespace {
 
-// With the echo and a reply 50 milliseconds behind the write, each exchange lasts two seconds more.
+// With the echo and a reply 50 milliseconds after the write, each exchange lasts two seconds more.
 constexpr double kExchange = 2.05;
 
 const Texts kFullStart = {"AT+CGSN\r",  "AT\r",        "AT+CPIN?\r",  "AT+CMEE=0\r",
@@ -27,7 +28,6 @@ const Texts kStartWithoutSim = {"AT+CGSN\r",   "AT\r",        "AT+CPIN?\r",     
                                 "AT+CRC=0\r",  "AT+WIND=0\r", "AT+SPEAKER=1\r", "ATE1\r",
                                 "AT+CCED=2\r", "ATI0\r",      "ATI3\r",         "AT+IPR?\r",
                                 "AT+ICF?\r"};
-constexpr const char* kWelcome = "                      Welcome To Ormalin Telecom Application";
 
 // Both sequences, in the start-up that leads to them.
 class InitialisationSequence : public HealthyModemTest {
@@ -169,7 +169,7 @@ TEST_F(InitialisationSequence, WithoutASimLeavesSignalAndAutoAnswerAlone) {
   EXPECT_EQ(statusLine(), "");
 }
 
-TEST_F(InitialisationSequence, BringsTheImageWindowUpFiftySecondsBehindItsEnd) {
+TEST_F(InitialisationSequence, BringsTheImageWindowUpFiftySecondsAfterItsEnd) {
   startHealthy();
   run(19 * kExchange + 0.1);
   expectWorking();
@@ -181,7 +181,7 @@ TEST_F(InitialisationSequence, BringsTheImageWindowUpFiftySecondsBehindItsEnd) {
   EXPECT_FALSE(panel().form20.Visible.peek());
 }
 
-TEST_F(InitialisationSequence, GoesOnBehindAClickThatAsksTheModemMeanwhile) {
+TEST_F(InitialisationSequence, GoesOnAfterAClickThatAsksTheModemMeanwhile) {
   startHealthy();
   run(5 * kExchange + 0.5);
   ASSERT_EQ(sent().back(), "AT+CLIP=1\r");
@@ -259,7 +259,7 @@ TEST_F(TranscriptAtEachRow, IsClearedByAllRowsButTheFramingWithoutASim) {
   expectNoSim();
 }
 
-TEST_F(TranscriptAtEachRow, ATextThatComesBehindTheFramingQueryIsClearedWithTheReply) {
+TEST_F(TranscriptAtEachRow, ATextThatComesAfterTheFramingQueryIsClearedWithTheReply) {
   startHealthy();
   reply("AT+ICF?", kError);
   settle();

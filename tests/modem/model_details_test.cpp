@@ -38,12 +38,6 @@ class ModelDetails : public HealthyModemTest {
   static constexpr const char* kHeading = "ManuFacturer And Model Details ";
 };
 
-TEST_F(ModelDetails, HaveTheirDesign) {
-  EXPECT_EQ(form().Caption.peek(), "GSM-Model Details");
-  EXPECT_EQ(form().Frame2.Caption.peek(), "Modem Information");
-  EXPECT_EQ(form().Command1.Caption.peek(), "View");
-}
-
 TEST_F(ModelDetails, AreLostWhenTheWindowIsClosedAndReadBackFromTheFile) {
   open();
   close(form());

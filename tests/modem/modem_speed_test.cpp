@@ -8,15 +8,13 @@
 namespace gsm {
 namespace {
 
-constexpr const char* kBefore = "as it was";
-
 struct SpeedRow {
   std::string name;
   std::string text;
   std::string speed;
 };
 
-// What a text in the transcript tells of the modem's speed.
+// What a text in the transcript says of the modem's speed.
 class ModemSpeed : public OpenPortTest, public ::testing::WithParamInterface<SpeedRow> {};
 
 TEST_P(ModemSpeed, IsTheFirstThatStandsInTheText) {
@@ -32,28 +30,29 @@ TEST_P(ModemSpeed, IsTheFirstThatStandsInTheText) {
   EXPECT_EQ(transcript(), GetParam().text);
 }
 
-std::string reported(const std::string& speed) {
+std::string reportedSpeed(const std::string& speed) {
   return "AT+IPR?\r\r\n+IPR: " + speed + "\r\n\r\nOK\r\n";
 }
 
-INSTANTIATE_TEST_SUITE_P(Speeds, ModemSpeed,
-                         ::testing::Values(SpeedRow{"Of300", reported("300"), "300"},
-                                           SpeedRow{"Of600", reported("600"), "600"},
-                                           SpeedRow{"Of1200", reported("1200"), "1200"},
-                                           SpeedRow{"Of2400", reported("2400"), "2400"},
-                                           SpeedRow{"Of4800", reported("4800"), "4800"},
-                                           SpeedRow{"Of9600", reported("9600"), "9600"},
-                                           SpeedRow{"Of19200", reported("19200"), "19200"},
-                                           SpeedRow{"Of38400", reported("38400"), "38400"},
-                                           SpeedRow{"Of57600Is600", reported("57600"), "600"},
-                                           SpeedRow{"Of115200", reported("115200"), "115200"},
-                                           SpeedRow{"OfAutoBaudStays", reported("0"), kBefore},
-                                           SpeedRow{"Of14400Stays", reported("14400"), kBefore},
-                                           SpeedRow{"Of230400Stays", reported("230400"), kBefore},
-                                           SpeedRow{"OfAnErrorStays", kError, kBefore},
-                                           SpeedRow{"OfNothingStays", "", kBefore},
-                                           SpeedRow{"OfAnyDigits", "x1396001x", "9600"}),
-                         RowName());
+INSTANTIATE_TEST_SUITE_P(
+    Speeds, ModemSpeed,
+    ::testing::Values(SpeedRow{"Of300", reportedSpeed("300"), "300"},
+                      SpeedRow{"Of600", reportedSpeed("600"), "600"},
+                      SpeedRow{"Of1200", reportedSpeed("1200"), "1200"},
+                      SpeedRow{"Of2400", reportedSpeed("2400"), "2400"},
+                      SpeedRow{"Of4800", reportedSpeed("4800"), "4800"},
+                      SpeedRow{"Of9600", reportedSpeed("9600"), "9600"},
+                      SpeedRow{"Of19200", reportedSpeed("19200"), "19200"},
+                      SpeedRow{"Of38400", reportedSpeed("38400"), "38400"},
+                      SpeedRow{"Of57600Is600", reportedSpeed("57600"), "600"},
+                      SpeedRow{"Of115200", reportedSpeed("115200"), "115200"},
+                      SpeedRow{"OfAutoBaudStays", reportedSpeed("0"), kBefore},
+                      SpeedRow{"Of14400Stays", reportedSpeed("14400"), kBefore},
+                      SpeedRow{"Of230400Stays", reportedSpeed("230400"), kBefore},
+                      SpeedRow{"OfAnErrorStays", kError, kBefore},
+                      SpeedRow{"OfNothingStays", "", kBefore},
+                      SpeedRow{"OfAnyDigits", "x1396001x", "9600"}),
+    RowName());
 
 // Of two speeds in one text the one of higher priority counts, wherever it stands.
 INSTANTIATE_TEST_SUITE_P(Priority, ModemSpeed,

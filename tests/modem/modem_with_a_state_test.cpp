@@ -25,7 +25,7 @@ class ModemWithAState : public CodePromptTest {
     modem_ = std::make_unique<SimulatedModem>(machine().time, machine().line, options);
     settle();
   }
-  // The modem goes behind the handlers that use it, and before the line.
+  // The modem goes after the handlers that use it, and before the line.
   void TearDown() override {
     world().time().abandon();
     modem_.reset();
@@ -69,13 +69,13 @@ INSTANTIATE_TEST_SUITE_P(Cuts, ModemInPieces,
 
 TEST_F(ModemWithAState, WithoutASimLeavesTheReducedPanel) {
   startWith({.sim = SimStatus::kAbsent});
-  EXPECT_EQ(logBehindTheCheck(), (Texts{"SIM Not Found !.Insert SIM Properly", "Speaker Set ",
-                                        "Echo Enabled", "Checking Modem Speed"}));
+  EXPECT_EQ(logAfterTheCheck(), (Texts{"SIM Not Found !.Insert SIM Properly", "Speaker Set ",
+                                       "Echo Enabled", "Checking Modem Speed"}));
   expectNoSim();
   expectAtRest();
 }
 
-TEST_F(ModemWithAState, IsOpenedByItsPinBehindARefusal) {
+TEST_F(ModemWithAState, IsOpenedByItsPinAfterARefusal) {
   startWith({.sim = SimStatus::kPinWanted});
   EXPECT_EQ(sent(), kStart);
   EXPECT_TRUE(prompt().Visible.peek());
@@ -92,7 +92,7 @@ TEST_F(ModemWithAState, IsOpenedByItsPinBehindARefusal) {
   expectNoCodeInTheLog({"0000", "1234"});
 }
 
-TEST_F(ModemWithAState, EndsTheProgramBehindThreeWrongPins) {
+TEST_F(ModemWithAState, EndsTheProgramAfterThreeWrongPins) {
   startWith({.sim = SimStatus::kPinWanted});
   for (int i = 0; i < 3; ++i) {
     EXPECT_FALSE(ended());

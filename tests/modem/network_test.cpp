@@ -59,7 +59,7 @@ TEST_F(Network, SpendsTwoSecondsOnEachExchange) {
   EXPECT_NEAR(toSeconds(writes[2].at), 4.1, 0.02);
 }
 
-TEST_F(Network, OfASilentModemStopsBehindTheFirstQuestion) {
+TEST_F(Network, OfASilentModemStopsAfterTheFirstQuestion) {
   setBars("###..");
   refresh();
   EXPECT_EQ(sent(), Texts{"AT\r"});
@@ -69,7 +69,7 @@ TEST_F(Network, OfASilentModemStopsBehindTheFirstQuestion) {
   EXPECT_EQ(boxes(), Texts{});
 }
 
-TEST_F(Network, OfAModemThatAnswersErrorStopsBehindTheFirstQuestion) {
+TEST_F(Network, OfAModemThatAnswersErrorStopsAfterTheFirstQuestion) {
   reply("AT", kError);
   refresh();
   EXPECT_EQ(sent(), Texts{"AT\r"});

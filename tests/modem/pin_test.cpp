@@ -7,7 +7,7 @@
 namespace gsm {
 namespace {
 
-constexpr const char* kInvalid = "Invalid PIN Entered";
+constexpr const char* kInvalidPin = "Invalid PIN Entered";
 
 class Pin : public CodePromptTest {
  protected:
@@ -19,8 +19,8 @@ TEST_F(Pin, AcceptedInitialisesTheModem) {
   enterPin("1234");
   settle();
   EXPECT_EQ(sent(), withSequence({"AT+CPIN=1234\r"}));
-  EXPECT_EQ(logBehindTheCheck(), (Texts{"PIN Accepted", "Setting to Text Mode", "Speaker Set ",
-                                        "Echo Enabled", "Checking Modem Speed"}));
+  EXPECT_EQ(logAfterTheCheck(), (Texts{"PIN Accepted", "Setting to Text Mode", "Speaker Set ",
+                                       "Echo Enabled", "Checking Modem Speed"}));
   EXPECT_FALSE(prompt().Visible.peek());
   EXPECT_TRUE(prompt().isLoaded());
   EXPECT_EQ(prompt().Text1.Text.peek(), "");
@@ -57,7 +57,7 @@ TEST_F(Pin, RefusedIsCountedAndAskedAgain) {
   enterPin("1111");
   settle();
   EXPECT_EQ(sent(), Texts{"AT+CPIN=1111\r"});
-  EXPECT_EQ(logBehindTheCheck(), Texts{kInvalid});
+  EXPECT_EQ(logAfterTheCheck(), Texts{kInvalidPin});
   EXPECT_EQ(refusals(), "1");
   EXPECT_TRUE(prompt().Visible.peek());
   EXPECT_EQ(parts(), kPinForm);
@@ -81,13 +81,13 @@ TEST_F(Pin, RefusedTwiceLeavesThePromptOpen) {
   settle();
   enterPin("2222");
   settle();
-  EXPECT_EQ(logBehindTheCheck(), (Texts{kInvalid, kInvalid}));
+  EXPECT_EQ(logAfterTheCheck(), (Texts{kInvalidPin, kInvalidPin}));
   EXPECT_EQ(refusals(), "2");
   EXPECT_TRUE(prompt().Visible.peek());
   expectAtRest();
 }
 
-TEST_F(Pin, RefusedThreeTimesEndsTheProgramBehindABox) {
+TEST_F(Pin, RefusedThreeTimesEndsTheProgramAfterABox) {
   answerCodes({kError});
   enterPin("1111");
   settle();
@@ -97,8 +97,8 @@ TEST_F(Pin, RefusedThreeTimesEndsTheProgramBehindABox) {
   enterPin("3333");
   run(5);
   expectBox("Invalid PIN Entered.GET PUK Number And TRY LAter", "GSM");
-  EXPECT_EQ(logBehindTheCheck(),
-            (Texts{kInvalid, kInvalid, kInvalid, "Invalid PIN Entered 3Times.GET PUK Number"}));
+  EXPECT_EQ(logAfterTheCheck(), (Texts{kInvalidPin, kInvalidPin, kInvalidPin,
+                                       "Invalid PIN Entered 3Times.GET PUK Number"}));
   EXPECT_EQ(refusals(), "3");
   EXPECT_TRUE(prompt().Visible.peek());
   EXPECT_FALSE(ended());
@@ -140,7 +140,7 @@ TEST_P(RefusalInPieces, IsCountedOnce) {
                      .replies = {GetParam().chunks}});
   enterPin("1111");
   settle();
-  EXPECT_EQ(logged(kInvalid), 1);
+  EXPECT_EQ(logged(kInvalidPin), 1);
   EXPECT_EQ(refusals(), "1");
   expectAtRest();
 }
@@ -194,8 +194,8 @@ TEST_F(Pin, AcceptedAndRefusedInOneTextIsBoth) {
   answerCodes({"\r\nOK\r\n\r\nERROR\r\n"});
   enterPin("1234");
   settle();
-  EXPECT_EQ(logBehindTheCheck(), (Texts{"PIN Accepted", "Setting to Text Mode", "Speaker Set ",
-                                        "Echo Enabled", "Checking Modem Speed", kInvalid}));
+  EXPECT_EQ(logAfterTheCheck(), (Texts{"PIN Accepted", "Setting to Text Mode", "Speaker Set ",
+                                       "Echo Enabled", "Checking Modem Speed", kInvalidPin}));
   EXPECT_EQ(refusals(), "1");
   EXPECT_TRUE(prompt().Visible.peek());
   expectWorking();
@@ -209,7 +209,7 @@ TEST_F(Pin, WithoutEchoIsNeverJudged) {
   enterPin("1111");
   settle();
   EXPECT_EQ(refusals(), "0");
-  EXPECT_EQ(logBehindTheCheck(), Texts{});
+  EXPECT_EQ(logAfterTheCheck(), Texts{});
   EXPECT_EQ(transcript(), kError);
 }
 
@@ -218,7 +218,7 @@ TEST_F(Pin, ACountThatIsNoNumberEndsTheJudgementSilently) {
   inPanel([this] { form1().Text2.Text = "no number"; });
   enterPin("1111");
   settle();
-  EXPECT_EQ(logBehindTheCheck(), Texts{kInvalid});
+  EXPECT_EQ(logAfterTheCheck(), Texts{kInvalidPin});
   EXPECT_EQ(refusals(), "no number");
   expectAtRest();
 }

@@ -7,7 +7,7 @@
 namespace gsm {
 namespace {
 
-constexpr const char* kInvalid = "Invalid PUK Entered ";
+constexpr const char* kInvalidPuk = "Invalid PUK Entered ";
 constexpr const char* kAccepted = "PIN,PUK Accepted";
 
 class Puk : public CodePromptTest {
@@ -26,8 +26,8 @@ TEST_F(Puk, AcceptedInitialisesTheModem) {
   enterPuk("12345678", "4321");
   settle();
   EXPECT_EQ(sent(), withSequence({"AT+CPIN=12345678,4321\r"}));
-  EXPECT_EQ(logBehindTheCheck(), (Texts{kAccepted, "Setting to Text Mode", "Speaker Set ",
-                                        "Echo Enabled", "Checking Modem Speed"}));
+  EXPECT_EQ(logAfterTheCheck(), (Texts{kAccepted, "Setting to Text Mode", "Speaker Set ",
+                                       "Echo Enabled", "Checking Modem Speed"}));
   EXPECT_FALSE(prompt().Visible.peek());
   EXPECT_EQ(prompt().Text1.Text.peek(), "");
   EXPECT_EQ(prompt().Text2.Text.peek(), "");
@@ -52,7 +52,7 @@ TEST_F(Puk, RefusedFallsBackToThePinFormWhileThePanelStaysInItsMode) {
   answerCodes({kError});
   enterPuk("87654321", "4321");
   settle();
-  EXPECT_EQ(logBehindTheCheck(), Texts{kInvalid});
+  EXPECT_EQ(logAfterTheCheck(), Texts{kInvalidPuk});
   EXPECT_EQ(parts(), kPinForm);
   expectPukMode();
   EXPECT_EQ(refusals(), "0");
@@ -64,20 +64,20 @@ TEST_F(Puk, RefusedFallsBackToThePinFormWhileThePanelStaysInItsMode) {
   expectAtRest();
 }
 
-TEST_F(Puk, ABarePinAcceptedBehindARefusalIsLoggedAsAPuk) {
+TEST_F(Puk, ABarePinAcceptedAfterARefusalIsLoggedAsAPuk) {
   answerCodes({kError, kOk});
   enterPuk("87654321", "4321");
   settle();
   enterPin("1234");
   settle();
   EXPECT_EQ(sent(), withSequence({"AT+CPIN=87654321,4321\r", "AT+CPIN=1234\r"}));
-  EXPECT_EQ(logBehindTheCheck(), (Texts{kInvalid, kAccepted, "Setting to Text Mode", "Speaker Set ",
-                                        "Echo Enabled", "Checking Modem Speed"}));
+  EXPECT_EQ(logAfterTheCheck(), (Texts{kInvalidPuk, kAccepted, "Setting to Text Mode",
+                                       "Speaker Set ", "Echo Enabled", "Checking Modem Speed"}));
   expectWorking();
   expectNoCodeInTheLog({"87654321", "4321", "1234"});
 }
 
-TEST_F(Puk, RefusedBarePinsBehindARefusalAreNeverCounted) {
+TEST_F(Puk, RefusedBarePinsAfterARefusalAreNeverCounted) {
   answerCodes({kError});
   enterPuk("87654321", "4321");
   settle();
@@ -85,7 +85,7 @@ TEST_F(Puk, RefusedBarePinsBehindARefusalAreNeverCounted) {
     enterPin("1111");
     settle();
   }
-  EXPECT_EQ(logged(kInvalid), 6);
+  EXPECT_EQ(logged(kInvalidPuk), 6);
   EXPECT_EQ(refusals(), "0");
   expectPukMode();
   EXPECT_EQ(parts(), kPinForm);
@@ -102,7 +102,7 @@ TEST_F(Puk, RefusedInPiecesIsLoggedOnce) {
                                   {milliseconds(2500), "\r\n"}}}});
   enterPuk("87654321", "4321");
   settle();
-  EXPECT_EQ(logged(kInvalid), 1);
+  EXPECT_EQ(logged(kInvalidPuk), 1);
   EXPECT_EQ(parts(), kPinForm);
 }
 
@@ -110,7 +110,7 @@ TEST_F(Puk, UnansweredLeavesItsForm) {
   enterPuk("12345678", "4321");
   settle();
   EXPECT_EQ(parts(), kPukForm);
-  EXPECT_EQ(logBehindTheCheck(), Texts{});
+  EXPECT_EQ(logAfterTheCheck(), Texts{});
   EXPECT_TRUE(prompt().Visible.peek());
   expectPukMode();
 }
@@ -122,7 +122,7 @@ TEST_F(Puk, UnansweredPutsItsFormBackWhateverCameMeanwhile) {
   EXPECT_EQ(parts(), kPukForm);
 }
 
-TEST_F(Puk, RefusedBehindTheWaitFallsBackToThePinForm) {
+TEST_F(Puk, RefusedAfterTheWaitFallsBackToThePinForm) {
   using std::chrono::milliseconds;
   world().modem.add({.fit = ModemScript::Rule::Fit::beginning,
                      .write = "AT+CPIN=",
@@ -132,7 +132,7 @@ TEST_F(Puk, RefusedBehindTheWaitFallsBackToThePinForm) {
   EXPECT_EQ(parts(), kPukForm);
   settle();
   EXPECT_EQ(parts(), kPinForm);
-  EXPECT_EQ(logged(kInvalid), 1);
+  EXPECT_EQ(logged(kInvalidPuk), 1);
 }
 
 TEST_F(Puk, AnOldErrorInTheTranscriptCountsAgainstIt) {
@@ -140,8 +140,8 @@ TEST_F(Puk, AnOldErrorInTheTranscriptCountsAgainstIt) {
   inPanel([this] { form1().Text1.Text = kError; });
   enterPuk("12345678", "4321");
   settle();
-  EXPECT_EQ(logBehindTheCheck(), (Texts{kAccepted, "Setting to Text Mode", "Speaker Set ",
-                                        "Echo Enabled", "Checking Modem Speed", kInvalid}));
+  EXPECT_EQ(logAfterTheCheck(), (Texts{kAccepted, "Setting to Text Mode", "Speaker Set ",
+                                       "Echo Enabled", "Checking Modem Speed", kInvalidPuk}));
   EXPECT_EQ(parts(), kPinForm);
   EXPECT_FALSE(prompt().Visible.peek());
   expectWorking();

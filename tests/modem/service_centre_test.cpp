@@ -7,7 +7,6 @@
 namespace gsm {
 namespace {
 
-constexpr const char* kBefore = "as it was";
 constexpr const char* kUnknown = "Service Center Unknown";
 
 struct CentreRow {

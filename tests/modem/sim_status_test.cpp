@@ -45,7 +45,7 @@ TEST_F(SimStatus, WithAClosingOkInitialisesAsWell) {
   expectWorking();
 }
 
-TEST_F(SimStatus, IsAskedOnlyBehindAnAnswerToTheFirstCommand) {
+TEST_F(SimStatus, IsAskedOnlyAfterAnAnswerToTheFirstCommand) {
   startHealthy();
   silence("AT");
   settle();
@@ -272,7 +272,7 @@ TEST_F(SimStatusUnasked, OfAReadySimInitialises) {
   EXPECT_EQ(sent(), Texts{"AT+CMEE=0\r"});
 }
 
-TEST_F(SimStatusUnasked, IsClearedBehindThePrompt) {
+TEST_F(SimStatusUnasked, IsClearedAfterThePrompt) {
   receive(unsolicited("+CPIN: SIM PIN"));
   settle();
   EXPECT_TRUE(panel().form10.Visible.peek());

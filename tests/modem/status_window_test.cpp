@@ -8,18 +8,6 @@ namespace {
 
 class StatusWindow : public RoutingTest {};
 
-TEST_F(StatusWindow, ComesUpWithItsDesign) {
-  Form7& window = panel().form7;
-  inPanel([&] { window.Show(); });
-  run(0);
-  EXPECT_EQ(window.Caption.peek(), "GSM-N/W");
-  EXPECT_EQ(window.Label1.Caption.peek(), "Signal  And Network");
-  EXPECT_EQ(window.Label2.Caption.peek(), "L");
-  EXPECT_EQ(window.Label3.Caption.peek(), "H");
-  EXPECT_EQ(bars(), ".....");
-  EXPECT_EQ(signal() + registration(), "");
-}
-
 TEST_F(StatusWindow, HoldsNothingThatTheUserCouldPress) {
   Form7& window = panel().form7;
   inPanel([&] { window.Show(); });

@@ -15,7 +15,7 @@ class ContextsChange : public ContextsTest {
   void fillIn(int number, int type, const std::string& name) {
     if (number >= 0) pick(form().Combo1, number);
     if (type >= 0) pick(form().Combo2, type);
-    this->type(form().Text1, name);
+    this->fill(form().Text1, name);
   }
 };
 
@@ -42,7 +42,7 @@ TEST_F(ContextsChange, IsSentAndThenReadAnew) {
   expectAtRest();
 }
 
-struct ChangeRow {
+struct ContextRow {
   std::string name;
   int number;
   int type;
@@ -50,7 +50,7 @@ struct ChangeRow {
   std::string sent;
 };
 
-class ContextCommand : public ContextsChange, public ::testing::WithParamInterface<ChangeRow> {};
+class ContextCommand : public ContextsChange, public ::testing::WithParamInterface<ContextRow> {};
 
 TEST_P(ContextCommand, HoldsWhatIsChosenAndTyped) {
   fillIn(GetParam().number, GetParam().type, GetParam().text);
@@ -62,13 +62,13 @@ TEST_P(ContextCommand, HoldsWhatIsChosenAndTyped) {
 INSTANTIATE_TEST_SUITE_P(
     Of, ContextCommand,
     ::testing::Values(
-        ChangeRow{"First", 0, 0, "internet", "AT+CGDCONT=1,\"IP\",\"internet\""},
-        ChangeRow{"Second", 1, 1, "b", "AT+CGDCONT=2,\"PPP\",\"b\""},
-        ChangeRow{"Fourth", 3, 0, "d", "AT+CGDCONT=4,\"IP\",\"d\""},
-        ChangeRow{"NameOfTwentyCharacters", 0, 0, "abcdefghijklmnopqrstuvwxyz",
-                  "AT+CGDCONT=1,\"IP\",\"abcdefghijklmnopqrst\""},
-        ChangeRow{"NameAsItStands", 0, 0, " a\"b, ", "AT+CGDCONT=1,\"IP\",\" a\"b, \""},
-        ChangeRow{"NoSecondCommand", 0, 0, "a\rATD112;", "AT+CGDCONT=1,\"IP\",\"a\""}),
+        ContextRow{"First", 0, 0, "internet", "AT+CGDCONT=1,\"IP\",\"internet\""},
+        ContextRow{"Second", 1, 1, "b", "AT+CGDCONT=2,\"PPP\",\"b\""},
+        ContextRow{"Fourth", 3, 0, "d", "AT+CGDCONT=4,\"IP\",\"d\""},
+        ContextRow{"NameOfTwentyCharacters", 0, 0, "abcdefghijklmnopqrstuvwxyz",
+                   "AT+CGDCONT=1,\"IP\",\"abcdefghijklmnopqrst\""},
+        ContextRow{"NameAsItStands", 0, 0, " a\"b, ", "AT+CGDCONT=1,\"IP\",\" a\"b, \""},
+        ContextRow{"NoSecondCommand", 0, 0, "a\rATD112;", "AT+CGDCONT=1,\"IP\",\"a\""}),
     RowName());
 
 struct EmptyRow {
@@ -111,14 +111,15 @@ TEST_F(ContextsChange, ReadsAnewOnlyWhenTheMessageIsAnswered) {
   EXPECT_EQ(sent(), Texts{"AT+CGDCONT?\r"});
 }
 
-struct OutcomeRow {
+struct ContextOutcomeRow {
   std::string name;
   std::string answer;
   Texts words;       // that stood on the status line, one after another
   std::string left;  // in the box of the name
 };
 
-class ContextOutcome : public ContextsChange, public ::testing::WithParamInterface<OutcomeRow> {};
+class ContextOutcome : public ContextsChange,
+                       public ::testing::WithParamInterface<ContextOutcomeRow> {};
 
 // The reading that follows empties the status line first, so the words are there for no time.
 TEST_P(ContextOutcome, IsTakenOffByTheReadingThatFollows) {
@@ -143,12 +144,14 @@ TEST_P(ContextOutcome, IsTakenOffByTheReadingThatFollows) {
 
 INSTANTIATE_TEST_SUITE_P(
     Is, ContextOutcome,
-    ::testing::Values(
-        OutcomeRow{"Ok", kOk, {"", "Changes SuccessFul-GPRS", ""}, ""},
-        OutcomeRow{"Error", kError, {"", "Changes UnsuccessFul", ""}, "name"},
-        OutcomeRow{"Both", "\r\nERROR\r\n\r\nOK\r\n", {"", "Changes SuccessFul-GPRS", ""}, ""},
-        OutcomeRow{"Neither", "\r\n+CGDCONT: 1\r\n", {""}, "name"},
-        OutcomeRow{"Silence", "", {""}, "name"}),
+    ::testing::Values(ContextOutcomeRow{"Ok", kOk, {"", "Changes SuccessFul-GPRS", ""}, ""},
+                      ContextOutcomeRow{"Error", kError, {"", "Changes UnsuccessFul", ""}, "name"},
+                      ContextOutcomeRow{"Both",
+                                        "\r\nERROR\r\n\r\nOK\r\n",
+                                        {"", "Changes SuccessFul-GPRS", ""},
+                                        ""},
+                      ContextOutcomeRow{"Neither", "\r\n+CGDCONT: 1\r\n", {""}, "name"},
+                      ContextOutcomeRow{"Silence", "", {""}, "name"}),
     RowName());
 
 TEST_F(ContextsChange, WithoutAPortEndsBeforeItReads) {
@@ -235,12 +238,13 @@ TEST_F(ContextsChange, ClosingItSendsNothingAndBringsTheMenuBack) {
     form1().Hide();
   });
   run(0);
-  bool menuWasUp = false;
+  std::vector<bool> menuWasUp;
   const PropertyWatch watch(form(), [&](PropertyId property) {
-    if (property == PropertyId::Visible) menuWasUp = panel().form16.Visible.peek();
+    if (property == PropertyId::Visible) menuWasUp.push_back(panel().form16.Visible.peek());
   });
   closeWindow();
-  EXPECT_TRUE(menuWasUp);
+  ASSERT_FALSE(menuWasUp.empty());
+  EXPECT_TRUE(menuWasUp.front());
   EXPECT_FALSE(form().isLoaded());
   EXPECT_TRUE(panel().form16.Visible.peek());
   EXPECT_FALSE(form1().Visible.peek());
@@ -249,12 +253,13 @@ TEST_F(ContextsChange, ClosingItSendsNothingAndBringsTheMenuBack) {
 }
 
 TEST_F(ContextsChange, ClosingItEmptiesTheGridBeforeItGoes) {
-  Texts left = {"not looked"};
+  std::vector<Texts> left;  // as the window went off the screen, and as it was unloaded
   const PropertyWatch watch(form(), [&](PropertyId property) {
-    if (property == PropertyId::Visible) left = grid();
+    if (property == PropertyId::Visible) left.push_back(grid());
   });
   closeWindow();
-  EXPECT_EQ(left, Texts{});
+  ASSERT_FALSE(left.empty());
+  EXPECT_EQ(left.front(), Texts{});
 }
 
 TEST_F(ContextsChange, OpenedAgainReadsAgain) {

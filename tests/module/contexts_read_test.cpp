@@ -44,10 +44,17 @@ TEST_F(ContextsRead, ShowsAContextInItsRow) {
 }
 
 TEST_F(ContextsRead, TheBoxesOfTheGridTakeNoInput) {
-  load(information(kInternet));
-  EXPECT_FALSE(form().Text2.userType("x"));
-  EXPECT_FALSE(form().Text4.userErase());
-  EXPECT_EQ(grid(), Texts{"1|IP|internet"});
+  load(lines({kInternet, "+CGDCONT: 2,\"PPP\",\"b\",,0,0", "+CGDCONT: 3,\"IP\",\"c\",,0,0",
+              "+CGDCONT: 4,\"PPP\",\"d\",,0,0"}));
+  const Texts shown = grid();
+  ASSERT_EQ(shown.size(), 4U);
+  for (Control* control : form().controls()) {
+    auto* box = dynamic_cast<TextBox*>(control);
+    if (box == nullptr || box == &form().Text1) continue;
+    EXPECT_FALSE(box->userType("x")) << box->name();
+    EXPECT_FALSE(box->userErase()) << box->name();
+  }
+  EXPECT_EQ(grid(), shown);
 }
 
 struct GridRow {
@@ -118,6 +125,11 @@ TEST_F(ContextsRead, SeveralLinesMayBeSetApart) {
   EXPECT_EQ(grid(), (Texts{"1|IP|internet", "2|IP|b"}));
 }
 
+TEST_F(ContextsRead, TheSecondsEmptyFieldMayStandRightBeforeTheOk) {
+  load("\r\n+CGDCONT: 2,\"IP\",\"b\",,OK\r\n");
+  EXPECT_EQ(grid(), Texts{"2|IP|b"});
+}
+
 // The first context is looked for in the whole reply: it needs no "OK".
 TEST_F(ContextsRead, TheFirstNeedsNoOk) {
   load("\r\n" + std::string(kInternet) + "\r\n");
@@ -125,13 +137,14 @@ TEST_F(ContextsRead, TheFirstNeedsNoOk) {
   EXPECT_EQ(transcript(), "");
 }
 
-struct BrokenRow {
+struct BrokenContextsRow {
   std::string name;
   std::string answer;
   Texts grid;
 };
 
-class BrokenContexts : public ContextsRead, public ::testing::WithParamInterface<BrokenRow> {};
+class BrokenContexts : public ContextsRead,
+                       public ::testing::WithParamInterface<BrokenContextsRow> {};
 
 TEST_P(BrokenContexts, EndTheReadWhereItIs) {
   load(GetParam().answer);
@@ -146,29 +159,30 @@ TEST_P(BrokenContexts, EndTheReadWhereItIs) {
 INSTANTIATE_TEST_SUITE_P(
     With, BrokenContexts,
     ::testing::Values(
-        BrokenRow{
+        BrokenContextsRow{
             "NoEmptyFieldInTheFirst", information("+CGDCONT: 1,\"IP\",\"internet\",\"\",0,0"), {}},
         // An empty field of an earlier line lies before the first one's.
-        BrokenRow{"AnEarlierLinesEmptyField",
-                  lines({"+CGDCONT: 2,\"IP\",\"b\",,0,0", "+CGDCONT: 1,\"IP\",\"a\",,0,0"}),
-                  {}},
-        BrokenRow{"NoEmptyFieldInTheSecond",
-                  lines({kInternet, "+CGDCONT: 2,\"IP\",\"b\",\"\",0,0"}),
-                  {"1|IP|internet"}},
-        BrokenRow{"NoOkBehindTheSecond",
-                  "\r\n" + std::string(kInternet) + "\r\n+CGDCONT: 2,\"IP\",\"b\",,0,0\r\n",
-                  {"1|IP|internet"}},
-        BrokenRow{"AnOkBeforeTheSecond",
-                  "\r\nOK\r\n" + std::string(kInternet) + "\r\n+CGDCONT: 2,\"IP\",\"b\",,0,0\r\n",
-                  {"1|IP|internet"}},
-        BrokenRow{"NoNameInTheFirst", information("+CGDCONT: 1,\"IP\",,,0,0"), {}},
-        BrokenRow{"NoNameInTheSecond",
-                  lines({kInternet, "+CGDCONT: 2,\"PPP\",,,0,0"}),
-                  {"1|IP|internet"}},
-        BrokenRow{"TheOtherTypesLettersAtANamesEnd",
-                  information("+CGDCONT: 1,\"IP\",\"aPPPb\",,0,0"),
-                  {}},
-        BrokenRow{
+        BrokenContextsRow{"AnEarlierLinesEmptyField",
+                          lines({"+CGDCONT: 2,\"IP\",\"b\",,0,0", "+CGDCONT: 1,\"IP\",\"a\",,0,0"}),
+                          {}},
+        BrokenContextsRow{"NoEmptyFieldInTheSecond",
+                          lines({kInternet, "+CGDCONT: 2,\"IP\",\"b\",\"\",0,0"}),
+                          {"1|IP|internet"}},
+        BrokenContextsRow{"NoOkBehindTheSecond",
+                          "\r\n" + std::string(kInternet) + "\r\n+CGDCONT: 2,\"IP\",\"b\",,0,0\r\n",
+                          {"1|IP|internet"}},
+        BrokenContextsRow{
+            "AnOkBeforeTheSecond",
+            "\r\nOK\r\n" + std::string(kInternet) + "\r\n+CGDCONT: 2,\"IP\",\"b\",,0,0\r\n",
+            {"1|IP|internet"}},
+        BrokenContextsRow{"NoNameInTheFirst", information("+CGDCONT: 1,\"IP\",,,0,0"), {}},
+        BrokenContextsRow{"NoNameInTheSecond",
+                          lines({kInternet, "+CGDCONT: 2,\"PPP\",,,0,0"}),
+                          {"1|IP|internet"}},
+        BrokenContextsRow{"TheOtherTypesLettersAtANamesEnd",
+                          information("+CGDCONT: 1,\"IP\",\"aPPPb\",,0,0"),
+                          {}},
+        BrokenContextsRow{
             "TheTypesLettersAtANamesEnd", information("+CGDCONT: 1,\"PPP\",\"voIP\",,0,0"), {}}),
     RowName());
 
@@ -211,7 +225,7 @@ TEST_F(ContextsRead, RefreshEmptiesTheGridAndReadsAnew) {
   load(lines({kInternet, "+CGDCONT: 4,\"PPP\",\"d\",,0,0"}));
   pick(form().Combo1, 2);
   pick(form().Combo2, 1);
-  type(form().Text1, "kept");
+  fill(form().Text1, "kept");
   reply("AT+CGDCONT?", information("+CGDCONT: 2,\"IP\",\"b\",,0,0"));
   click(form().Command2);
   EXPECT_EQ(grid(), Texts{});

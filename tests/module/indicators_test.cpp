@@ -122,12 +122,13 @@ TEST_F(Indicators, WithoutABlankLoseTheFirst) {
             "Roam Disabled,   SMS Not FULL");
 }
 
-struct BrokenRow {
+struct BrokenIndicatorsRow {
   std::string name;
   std::string reply;
 };
 
-class BrokenIndicators : public Indicators, public ::testing::WithParamInterface<BrokenRow> {};
+class BrokenIndicators : public Indicators,
+                         public ::testing::WithParamInterface<BrokenIndicatorsRow> {};
 
 TEST_P(BrokenIndicators, KeepTheWaitAndTheTranscript) {
   reply("AT+CIND?", GetParam().reply);
@@ -139,17 +140,18 @@ TEST_P(BrokenIndicators, KeepTheWaitAndTheTranscript) {
 
 INSTANTIATE_TEST_SUITE_P(
     Of, BrokenIndicators,
-    ::testing::Values(BrokenRow{.name = "OneField", .reply = information("+CIND: 5")},
-                      BrokenRow{.name = "TwoFields", .reply = information("+CIND: 5,3")},
-                      BrokenRow{.name = "ThreeFields", .reply = information("+CIND: 5,3,1")},
-                      BrokenRow{.name = "FourFields", .reply = information("+CIND: 5,3,1,0")},
-                      BrokenRow{.name = "FiveFields", .reply = information("+CIND: 5,3,1,0,0")},
-                      BrokenRow{.name = "SixFields", .reply = information("+CIND: 5,3,1,0,0,0")},
-                      BrokenRow{.name = "NoField", .reply = information("+CIND: ")},
-                      BrokenRow{.name = "NoOk", .reply = "\r\n+CIND: 5,3,1,0,0,0,0\r\n"},
-                      BrokenRow{.name = "TheKeyAlone", .reply = "\r\n+CIND:"},
-                      BrokenRow{.name = "OkInFront",
-                                .reply = "\r\nOK\r\n+CIND: 5,33333333333333333,1,0,0,0,0\r\n"}),
+    ::testing::Values(
+        BrokenIndicatorsRow{.name = "OneField", .reply = information("+CIND: 5")},
+        BrokenIndicatorsRow{.name = "TwoFields", .reply = information("+CIND: 5,3")},
+        BrokenIndicatorsRow{.name = "ThreeFields", .reply = information("+CIND: 5,3,1")},
+        BrokenIndicatorsRow{.name = "FourFields", .reply = information("+CIND: 5,3,1,0")},
+        BrokenIndicatorsRow{.name = "FiveFields", .reply = information("+CIND: 5,3,1,0,0")},
+        BrokenIndicatorsRow{.name = "SixFields", .reply = information("+CIND: 5,3,1,0,0,0")},
+        BrokenIndicatorsRow{.name = "NoField", .reply = information("+CIND: ")},
+        BrokenIndicatorsRow{.name = "NoOk", .reply = "\r\n+CIND: 5,3,1,0,0,0,0\r\n"},
+        BrokenIndicatorsRow{.name = "TheKeyAlone", .reply = "\r\n+CIND:"},
+        BrokenIndicatorsRow{.name = "OkInFront",
+                            .reply = "\r\nOK\r\n+CIND: 5,33333333333333333,1,0,0,0,0\r\n"}),
     RowName());
 
 TEST_F(Indicators, AnErrorIsOfTheModemsKind) {

@@ -155,7 +155,7 @@ TEST_F(OvertakenFeatures, AWindowClosedInTheReadingShowsTheErrorOfBothWords) {
   expectAtRest();
 }
 
-struct ChangeRow {
+struct OvertakenRow {
   std::string name;
   CommandButton Form17::*page;
   ComboBox Form17::*combo;
@@ -167,10 +167,11 @@ struct ChangeRow {
   std::string shownAfterPoll;  // whose "OK" is taken for the change's
 };
 
-class OvertakenChange : public OvertakenFeatures, public ::testing::WithParamInterface<ChangeRow> {
+class OvertakenChange : public OvertakenFeatures,
+                        public ::testing::WithParamInterface<OvertakenRow> {
  protected:
   void begin() {
-    const ChangeRow& row = GetParam();
+    const OvertakenRow& row = GetParam();
     reply(row.command, row.reply);
     press(form().*row.page);
     inPanel([this] { form().Combo2.ListIndex = 0; });
@@ -213,44 +214,45 @@ TEST_P(OvertakenChange, IsJudgedByWhatHadComeWhenTheDeviceGoes) {
   expectAtRest();
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, OvertakenChange,
-                         ::testing::Values(ChangeRow{.name = "TheDump",
-                                                     .page = &Form17::Command1,
-                                                     .combo = &Form17::Combo1,
-                                                     .button = &Form17::Command7,
-                                                     .command = "AT+CCED=2,1",
-                                                     .reply = kOk,
-                                                     .status = &Form17::Label1,
-                                                     .shown = "Changes SuccessFul-CCED",
-                                                     .shownAfterPoll = "Changes SuccessFul-CCED"},
-                                           ChangeRow{.name = "TheLevel",
-                                                     .page = &Form17::Command1,
-                                                     .combo = &Form17::Combo3,
-                                                     .button = &Form17::Command8,
-                                                     .command = "AT+WIND=2",
-                                                     .reply = kError,
-                                                     .status = &Form17::Label1,
-                                                     .shown = "Changes UnSuccessFul-WIND",
-                                                     .shownAfterPoll = "Changes SuccessFul-WIND"},
-                                           ChangeRow{.name = "TheVoiceMail",
-                                                     .page = &Form17::Command2,
-                                                     .combo = &Form17::Combo4,
-                                                     .button = &Form17::Command9,
-                                                     .command = "AT+CPHS=2,1",
-                                                     .reply = kOk,
-                                                     .status = &Form17::Label6,
-                                                     .shown = "Changes SuccessFul-CPHS",
-                                                     .shownAfterPoll = "Changes SuccessFul-CPHS"},
-                                           ChangeRow{.name = "ThePins",
-                                                     .page = &Form17::Command3,
-                                                     .combo = &Form17::Combo5,
-                                                     .button = &Form17::Command10,
-                                                     .command = "AT+WIOR=2",
-                                                     .reply = kError,
-                                                     .status = &Form17::Label9,
-                                                     .shown = "Not Supported",
-                                                     .shownAfterPoll = ""}),
-                         RowName());
+INSTANTIATE_TEST_SUITE_P(
+    Of, OvertakenChange,
+    ::testing::Values(OvertakenRow{.name = "TheDump",
+                                   .page = &Form17::Command1,
+                                   .combo = &Form17::Combo1,
+                                   .button = &Form17::Command7,
+                                   .command = "AT+CCED=2,1",
+                                   .reply = kOk,
+                                   .status = &Form17::Label1,
+                                   .shown = "Changes SuccessFul-CCED",
+                                   .shownAfterPoll = "Changes SuccessFul-CCED"},
+                      OvertakenRow{.name = "TheLevel",
+                                   .page = &Form17::Command1,
+                                   .combo = &Form17::Combo3,
+                                   .button = &Form17::Command8,
+                                   .command = "AT+WIND=2",
+                                   .reply = kError,
+                                   .status = &Form17::Label1,
+                                   .shown = "Changes UnSuccessFul-WIND",
+                                   .shownAfterPoll = "Changes SuccessFul-WIND"},
+                      OvertakenRow{.name = "TheVoiceMail",
+                                   .page = &Form17::Command2,
+                                   .combo = &Form17::Combo4,
+                                   .button = &Form17::Command9,
+                                   .command = "AT+CPHS=2,1",
+                                   .reply = kOk,
+                                   .status = &Form17::Label6,
+                                   .shown = "Changes SuccessFul-CPHS",
+                                   .shownAfterPoll = "Changes SuccessFul-CPHS"},
+                      OvertakenRow{.name = "ThePins",
+                                   .page = &Form17::Command3,
+                                   .combo = &Form17::Combo5,
+                                   .button = &Form17::Command10,
+                                   .command = "AT+WIOR=2",
+                                   .reply = kError,
+                                   .status = &Form17::Label9,
+                                   .shown = "Not Supported",
+                                   .shownAfterPoll = ""}),
+    RowName());
 
 // No wait carries over midnight: the handler ends there, and what it has done stays.
 class FeaturesAtMidnight : public MakersFeaturesTest {

@@ -35,7 +35,7 @@ TEST_F(SimulatedToolkit, TellsItsStatusAndTakesAChange) {
   EXPECT_EQ(status(), (Texts{"Current Status: Mode:  DeActivate SIM ToolKit Functionalities",
                              "TIMEOUT: 3", "Automatic Response  Activated"}));
   pick(form().Combo1, configure);
-  type(form().Text1, "160060C01F");
+  fill(form().Text1, "160060C01F");
   press(form().Command1);
   EXPECT_EQ(line(), "Changes SuccessFul-SIM ToolKit");
   EXPECT_TRUE(wantsReset());
@@ -43,7 +43,7 @@ TEST_F(SimulatedToolkit, TellsItsStatusAndTakesAChange) {
 
 TEST_F(SimulatedToolkit, RefusesAConfigurationThatIsNone) {
   pick(form().Combo1, configure);
-  type(form().Text1, "xyz");
+  fill(form().Text1, "xyz");
   press(form().Command1);
   EXPECT_EQ(line(), "Changes UnSuccessFul");
   EXPECT_FALSE(wantsReset());
@@ -54,7 +54,7 @@ class SimulatedContexts : public Simulated<ContextsTest> {
   void define(int number, int type, const std::string& name) {
     pick(form().Combo1, number - 1);
     pick(form().Combo2, type);
-    this->type(form().Text1, name);
+    this->fill(form().Text1, name);
     press(form().Command1);
   }
 };

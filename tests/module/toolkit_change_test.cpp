@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/module/toolkit_test.h"
+#include "tests/support/property_watch.h"
 
 namespace gsm {
 namespace {
@@ -33,7 +34,7 @@ TEST_F(ToolkitChange, ChoosingConfigureOpensAnEmptyConfiguration) {
 TEST_F(ToolkitChange, ChoosingAnotherModeClosesItAndForgetsWhatWasTyped) {
   for (const Mode other : {activate, deActivate}) {
     pick(form().Combo1, configure);
-    type(form().Text1, "160060C01F");
+    fill(form().Text1, "160060C01F");
     inPanel([this] { form().Label6.Visible = true; });
     run(0);
     pick(form().Combo1, other);
@@ -45,7 +46,7 @@ TEST_F(ToolkitChange, ChoosingAnotherModeClosesItAndForgetsWhatWasTyped) {
 
 TEST_F(ToolkitChange, TheConfigurationTakesTwentyCharactersOfAnyKind) {
   pick(form().Combo1, configure);
-  type(form().Text1, "xyz 60060C01F1600\"60C01F");
+  fill(form().Text1, "xyz 60060C01F1600\"60C01F");
   EXPECT_EQ(form().Text1.Text.peek(), "xyz 60060C01F1600\"60");
   press(form().Command1);
   EXPECT_EQ(sent(), Texts{"AT+STSF=2,\"xyz 60060C01F1600\"60\"\r"});
@@ -54,7 +55,7 @@ TEST_F(ToolkitChange, TheConfigurationTakesTwentyCharactersOfAnyKind) {
 TEST_F(ToolkitChange, ConfigureSendsItsCodeWithTheQuotedText) {
   reply("AT+STSF=2,\"160060C01F\"", kOk);
   pick(form().Combo1, configure);
-  type(form().Text1, "160060C01F");
+  fill(form().Text1, "160060C01F");
   leaveInTranscript("ERROR");
   click(form().Command1);
   EXPECT_EQ(status(), (Texts{"", "(TIMEOUT: 3)", "(Automatic Response  Activated)"}));
@@ -118,7 +119,7 @@ TEST_F(ToolkitChange, EachModeIsSentByItsPlace) {
   press(form().Command1);
   EXPECT_EQ(sent(), Texts{"AT+STSF=0\r"});
   pick(form().Combo1, configure);
-  type(form().Text1, "1");
+  fill(form().Text1, "1");
   pick(form().Combo1, activate);
   press(form().Command1);
   EXPECT_EQ(sent(), Texts{"AT+STSF=1\r"});
@@ -136,7 +137,7 @@ TEST_F(ToolkitChange, ATypedModeHasNoCode) {
 
 TEST_F(ToolkitChange, AnyOtherTypedTextSendsNothingAndSaysNothing) {
   pick(form().Combo1, configure);
-  type(form().Text1, "1F");
+  fill(form().Text1, "1F");
   for (const char* text : {"activate", " Activate", "1"}) {
     typeMode(text);
     leaveInTranscript("\r\nOK\r\n");
@@ -170,14 +171,15 @@ TEST_F(ToolkitChange, WithoutAModeOnlyTakesTheStatusDown) {
   expectAtRest();
 }
 
-struct OutcomeRow {
+struct ModeOutcomeRow {
   std::string name;
   std::string answer;
   std::string shown;
   bool reset;
 };
 
-class ToolkitOutcome : public ToolkitChange, public ::testing::WithParamInterface<OutcomeRow> {};
+class ToolkitOutcome : public ToolkitChange,
+                       public ::testing::WithParamInterface<ModeOutcomeRow> {};
 
 TEST_P(ToolkitOutcome, IsShownAfterASecond) {
   inPanel([this] { form1().MSComm1.SThreshold = 0; });
@@ -199,12 +201,12 @@ TEST_P(ToolkitOutcome, IsShownAfterASecond) {
 
 INSTANTIATE_TEST_SUITE_P(
     Is, ToolkitOutcome,
-    ::testing::Values(OutcomeRow{"Ok", kOk, "Changes SuccessFul-SIM ToolKit", true},
-                      OutcomeRow{"Error", kError, "Changes UnSuccessFul", false},
-                      OutcomeRow{"Both", "\r\nERROR\r\n\r\nOK\r\n",
-                                 "Changes SuccessFul-SIM ToolKit", true},
-                      OutcomeRow{"Neither", "\r\n+STSF: 1\r\n", "", false},
-                      OutcomeRow{"Silence", "", "", false}),
+    ::testing::Values(ModeOutcomeRow{"Ok", kOk, "Changes SuccessFul-SIM ToolKit", true},
+                      ModeOutcomeRow{"Error", kError, "Changes UnSuccessFul", false},
+                      ModeOutcomeRow{"Both", "\r\nERROR\r\n\r\nOK\r\n",
+                                     "Changes SuccessFul-SIM ToolKit", true},
+                      ModeOutcomeRow{"Neither", "\r\n+STSF: 1\r\n", "", false},
+                      ModeOutcomeRow{"Silence", "", "", false}),
     RowName());
 
 // The notice of a change is taken down at the next one's beginning, and stays down.
@@ -230,7 +232,7 @@ TEST_F(ToolkitChange, AnsweredByNothingItLeavesTheNoticeAlone) {
 
 TEST_F(ToolkitChange, WithoutAPortEndsSilently) {
   pick(form().Combo1, configure);
-  type(form().Text1, "1F");
+  fill(form().Text1, "1F");
   closePort();
   press(form().Command1);
   EXPECT_EQ(line(), "");
@@ -243,7 +245,7 @@ TEST_F(ToolkitChange, MidnightEndsItWhereItIs) {
   startWithOpenPort({2026, 3, 1, 23, 59, 0});
   loadActive();
   pick(form().Combo1, configure);
-  type(form().Text1, "1F");
+  fill(form().Text1, "1F");
   reply("AT+STSF=2,\"1F\"", kOk);
   run(59.5 - now());
   click(form().Command1);
@@ -317,6 +319,18 @@ TEST_F(ToolkitChange, ClosingItSendsNothingAndBringsTheMenuBack) {
   EXPECT_FALSE(form1().Visible.peek());
   EXPECT_EQ(sent(), Texts{});
   expectAtRest();
+}
+
+TEST_F(ToolkitChange, ClosingItTakesTheNoticeDownFirst) {
+  reply("AT+STSF=1", kOk);
+  press(form().Command1);
+  std::vector<bool> wanted;  // as the window went off the screen, and as it was unloaded
+  const PropertyWatch watch(form(), [&](PropertyId property) {
+    if (property == PropertyId::Visible) wanted.push_back(wantsReset());
+  });
+  closeWindow();
+  ASSERT_FALSE(wanted.empty());
+  EXPECT_FALSE(wanted.front());
 }
 
 TEST_F(ToolkitChange, OpenedAgainReadsAgain) {

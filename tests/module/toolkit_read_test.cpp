@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/module/toolkit_test.h"
+#include "tests/support/property_watch.h"
 
 namespace gsm {
 namespace {
@@ -110,12 +111,13 @@ INSTANTIATE_TEST_SUITE_P(
                 "Activate"}),
     RowName());
 
-struct BrokenRow {
+struct BrokenStatusRow {
   std::string name;
   std::string fields;
 };
 
-class BrokenToolkitReply : public ToolkitRead, public ::testing::WithParamInterface<BrokenRow> {};
+class BrokenToolkitReply : public ToolkitRead,
+                           public ::testing::WithParamInterface<BrokenStatusRow> {};
 
 TEST_P(BrokenToolkitReply, EndsTheReadSilently) {
   load(information("+STSF: " + GetParam().fields));
@@ -128,15 +130,15 @@ TEST_P(BrokenToolkitReply, EndsTheReadSilently) {
 
 // With the "OK" beyond the twenty-five characters there is nothing to look for the timeout in; nor
 // is there with fields so short that their end lies before its place.
-INSTANTIATE_TEST_SUITE_P(With, BrokenToolkitReply,
-                         ::testing::Values(BrokenRow{"TimeoutOfThreeDigits",
-                                                     "1,\"160060C01F\",120,1"},
-                                           BrokenRow{"ConfigurationOfTwentyCharacters",
-                                                     "1,\"160060C01F160060C01F\",3,1"},
-                                           BrokenRow{"NoResponse", "1,\"160060C01F\",3"},
-                                           BrokenRow{"EmptyConfiguration", "1,\"\",3,1"},
-                                           BrokenRow{"ModeAlone", "1"}, BrokenRow{"Nothing", ""}),
-                         RowName());
+INSTANTIATE_TEST_SUITE_P(
+    With, BrokenToolkitReply,
+    ::testing::Values(BrokenStatusRow{"TimeoutOfThreeDigits", "1,\"160060C01F\",120,1"},
+                      BrokenStatusRow{"ConfigurationOfTwentyCharacters",
+                                      "1,\"160060C01F160060C01F\",3,1"},
+                      BrokenStatusRow{"NoResponse", "1,\"160060C01F\",3"},
+                      BrokenStatusRow{"EmptyConfiguration", "1,\"\",3,1"},
+                      BrokenStatusRow{"ModeAlone", "1"}, BrokenStatusRow{"Nothing", ""}),
+    RowName());
 
 TEST_F(ToolkitRead, WithoutEchoShowsTheSame) {
   replyWithoutEcho("AT+STSF?", information("+STSF: " + kActive));
@@ -182,7 +184,7 @@ TEST_F(ToolkitRead, WithoutAPortComesUpWithItsList) {
 TEST_F(ToolkitRead, RefreshReadsAnewUnderTheWordsOfTheWait) {
   loadActive();
   pick(form().Combo1, configure);
-  type(form().Text1, "160060C01F");
+  fill(form().Text1, "160060C01F");
   inPanel([this] { form().Label6.Visible = true; });
   run(0);
   click(form().Command2);
@@ -197,6 +199,16 @@ TEST_F(ToolkitRead, RefreshReadsAnewUnderTheWordsOfTheWait) {
   EXPECT_EQ(mode(), "Activate");
   EXPECT_EQ(form().Combo1.ListCount(), 3);
   expectAtRest();
+}
+
+TEST_F(ToolkitRead, ARefreshTakesTheOldStatusDownBeforeItSaysThatItChecks) {
+  loadActive();
+  Texts words;
+  const PropertyWatch watch(form().Label2, [&](PropertyId property) {
+    if (property == PropertyId::Caption) words.push_back(form().Label2.Caption.peek());
+  });
+  click(form().Command2);
+  EXPECT_EQ(words, (Texts{"", "Plz Wait.Checking Current Values"}));
 }
 
 TEST_F(ToolkitRead, ARefusedRefreshIsOnView) {

@@ -4,12 +4,10 @@
 #include "panel/form7.h"
 #include "tests/support/healthy_modem_test.h"
 #include "tests/support/property_watch.h"
+#include "tests/support/start_up_words.h"
 
 namespace gsm {
 namespace {
-
-constexpr const char* kWelcome = "                      Welcome To Ormalin Telecom Application";
-constexpr const char* kBefore = "as it was";
 
 // The buttons that store, restart and reset.
 class LinkButton : public HealthyModemTest {
@@ -74,7 +72,7 @@ TEST_F(LinkButton, FactorySettingsSendsItsThreeCommands) {
   expectAtRest();
 }
 
-TEST_F(LinkButton, FactorySettingsClearsTheTranscriptBeforeEachCommandAndBehindTheLast) {
+TEST_F(LinkButton, FactorySettingsClearsTheTranscriptBeforeEachCommandAndAfterTheLast) {
   inPanel([this] { form1().Text1.Text = "junk"; });
   Texts commands;
   click(form1().Command13);
@@ -195,7 +193,7 @@ TEST_F(LinkButton, RefreshWithThePortClosedStartsUpAsWell) {
   expectAtRest();
 }
 
-TEST_F(LinkButton, RefreshTellsSinceWhenTheSystemRuns) {
+TEST_F(LinkButton, RefreshSaysSinceWhenTheSystemRuns) {
   run(100 - now());
   click(form1().Command9);
   EXPECT_EQ(form1().Label9.Caption.peek(), "System Started  01/03/2026,00:01:40");
@@ -241,7 +239,7 @@ TEST_F(LockedPanel, IsUnlockedByRefreshOnceTheModemAnswers) {
   expectAtRest();
 }
 
-TEST_F(LockedPanel, WithoutASavedPortStaysLockedBehindRefresh) {
+TEST_F(LockedPanel, WithoutASavedPortStaysLockedAfterRefresh) {
   start();
   settle();
   click(form1().Command9);

@@ -12,8 +12,6 @@
 namespace gsm {
 namespace {
 
-constexpr const char* kBefore = "as it was";
-
 // Buttons that ask the modem before they open their window.
 class ModemButton : public HealthyModemTest {
  protected:

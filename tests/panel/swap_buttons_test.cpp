@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "audio/form6.h"
-#include "modem/form11.h"
 #include "module/form16.h"
 #include "panel/form1.h"
 #include "security/form9.h"
@@ -15,45 +14,9 @@
 namespace gsm {
 namespace {
 
-class PanelDesign : public PanelTest {};
+class LockedButtons : public PanelTest {};
 
-TEST_F(PanelDesign, OfTheButtons) {
-  start();
-  Form1& form = form1();
-  struct Design {
-    CommandButton& button;
-    const char* caption;
-    bool enabled;
-  };
-  const Design designs[] = {{form.Command1, "&Model ", false},
-                            {form.Command2, "&Voice Call", false},
-                            {form.Command3, "&SMS", false},
-                            {form.Command4, "&Supplementary Service ", false},
-                            {form.Command5, "&Security", false},
-                            {form.Command6, "&Call Control", false},
-                            {form.Command7, "Port Settings->", true},
-                            {form.Command8, "&Exit", true},
-                            {form.Command9, "REFRESH", true},
-                            {form.Command10, "Data-Fax Setup", false},
-                            {form.Command11, "Modem Setting->", false},
-                            {form.Command12, "Other Features", false},
-                            {form.Command13, "Factory Settings", true}};
-  for (const Design& design : designs) {
-    EXPECT_EQ(design.button.Caption.peek(), design.caption);
-    EXPECT_EQ(design.button.Enabled.peek(), design.enabled) << design.caption;
-    EXPECT_EQ(design.button.BackColor.peek(), 0xE0E0E0) << design.caption;
-  }
-}
-
-TEST_F(PanelDesign, OfTheNewMessagesPicture) {
-  start();
-  settle();
-  EXPECT_EQ(panel().form11.Caption.peek(), "");
-  EXPECT_NE(panel().form11.control("Image1"), nullptr);
-  EXPECT_EQ(panel().form11.controls().size(), 1U);
-}
-
-TEST_F(PanelDesign, ADisabledButtonDoesNothing) {
+TEST_F(LockedButtons, DoNothing) {
   start();
   settle();
   click(form1().Command5);
@@ -63,8 +26,6 @@ TEST_F(PanelDesign, ADisabledButtonDoesNothing) {
   EXPECT_FALSE(panel().form16.isLoaded());
   EXPECT_TRUE(form1().Visible.peek());
 }
-
-constexpr const char* kBefore = "as it was";
 
 // A button that opens a window without asking the modem before.
 struct SwapRow {

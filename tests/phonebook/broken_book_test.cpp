@@ -17,7 +17,7 @@ using File = std::filesystem::path;
 
 const std::string kKnownRing = unsolicited("RING") + unsolicited("+CLIP: \"112\",129");
 const std::string kKnownWaiting = unsolicited("+CCWA: \"112\",129,1");
-const std::string kCounts = "AT+CPBS?\r" + information("+CPBS: \"SM\",1,100");
+const std::string kEchoedCounts = "AT+CPBS?\r" + information("+CPBS: \"SM\",1,100");
 
 class DamagedBook : public DownloadTest {
  protected:
@@ -75,12 +75,12 @@ TEST_P(UselessBook, EndsADownloadSilently) {
   inPanel([this] { calls().Hide(); });
   run(0);
   GetParam().damage(bookFile());
-  receive(kCounts);
+  receive(kEchoedCounts);
   settle();
   EXPECT_EQ(statusLine(), kSaving);
   EXPECT_EQ(sent(), Texts{});
   EXPECT_FALSE(calls().Visible.peek());
-  EXPECT_EQ(transcript(), kCounts);
+  EXPECT_EQ(transcript(), kEchoedCounts);
   expectAlive();
 }
 
@@ -190,11 +190,11 @@ TEST_P(HeldBookOf, AnotherIsNotEmptiedByADownload) {
   openCalls();
   hold(GetParam());
   inPanel([this] { calls().Hide(); });
-  receive(kCounts);
+  receive(kEchoedCounts);
   settle();
   EXPECT_EQ(statusLine(), kSaving);
   EXPECT_EQ(sent(), Texts{});
-  EXPECT_EQ(transcript(), kCounts);
+  EXPECT_EQ(transcript(), kEchoedCounts);
   EXPECT_FALSE(calls().Visible.peek());
   release();
   EXPECT_EQ(storedEntries(), (BookRows{{"1", "112", "HELP"}}));

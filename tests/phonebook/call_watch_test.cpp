@@ -99,7 +99,7 @@ TEST_F(CallWatch, OfAConnectedCallIsOverwrittenByTheDispatcherUntilItsNextPass) 
   EXPECT_EQ(std::count(seen.begin(), seen.end(), "No Carrier.Plz Disconnect"), 1);
 }
 
-TEST_F(CallWatch, LeavesTheDispatchersWordOfACallThatEndsBehindIt) {
+TEST_F(CallWatch, LeavesTheDispatchersWordOfACallThatEndsAfterIt) {
   reply("ATD123;", kOk);
   click(calls().Command1);
   settle();

@@ -88,7 +88,7 @@ TEST_F(Caller, WhoHidesTheNumberIsNoEntryWithoutOne) {
   }
 }
 
-TEST_F(Caller, WithBlanksBehindTheNumberInTheBookIsKnown) {
+TEST_F(Caller, WithBlanksAfterTheNumberInTheBookIsKnown) {
   layEntries({{"5", "0299999999 ", "TRAILING"}, {"6", "0288888888", "trailing"}});
   take(ring("0288888888"));
   EXPECT_EQ(caller(), "Call Received From  trailing");
@@ -156,7 +156,7 @@ TEST_F(Caller, WhoWaitsWithAQuoteAnywhereIsReadFromItsOwnLine) {
   EXPECT_EQ(caller(), "Call Waiting-  29999999");
 }
 
-TEST_F(Caller, WhoWaitsBehindAnEarlierCommaEndsTheRouting) {
+TEST_F(Caller, WhoWaitsAfterAnEarlierCommaEndsTheRouting) {
   leaveInTranscript("a,b");
   route(waitingCall("0146290800") + unsolicited("NO CARRIER"));
   EXPECT_FALSE(promptUp());
@@ -196,7 +196,7 @@ TEST_F(Caller, IsMissedWhenAClearingReplySharesTheTranscript) {
   EXPECT_FALSE(polls());
 }
 
-TEST_F(Caller, BehindAnEarlierCommaEndsTheRouting) {
+TEST_F(Caller, AfterAnEarlierCommaEndsTheRouting) {
   leaveInTranscript("a,b");
   route(ring("0146290800"));
   EXPECT_FALSE(promptUp());
@@ -204,7 +204,7 @@ TEST_F(Caller, BehindAnEarlierCommaEndsTheRouting) {
   EXPECT_FALSE(polls());
 }
 
-TEST_F(Caller, BehindALaterFirstCommaHasMoreThanTheNumber) {
+TEST_F(Caller, AfterALaterFirstCommaHasMoreThanTheNumber) {
   route("\r\nRING\r\n\r\n+CLIP: \"0146290800\"\r\nx,y");
   EXPECT_EQ(caller(), "Call Received-  0146290800\"\r\n");
 }

@@ -15,7 +15,7 @@ const std::string kCountsWithEcho = "AT+CPBS?\r" + kCounts;
 const BookRow kOne{"1", "0146290801", "Alice"};
 const BookRow kTwo{"2", "0146290802", "Bob"};
 
-// Replies of which the line loses or delays everything behind some byte.
+// Replies of which the line loses or delays everything after some byte.
 class CutReply : public DownloadTest, public ::testing::WithParamInterface<int> {
  protected:
   std::size_t cut() const { return static_cast<std::size_t>(GetParam()); }

@@ -98,7 +98,7 @@ TEST_F(RecordSource, IsTheDesignsAgainWhenTheWindowIsLoadedAnew) {
   inPanel([this] { calls().userClose(); });
   settle();
   openCalls();
-  EXPECT_EQ(failureOf([this] { data().Recordset().field("number"); }), 3021);  // behind the walk
+  EXPECT_EQ(failureOf([this] { data().Recordset().field("number"); }), 3021);  // after the walk
   EXPECT_EQ(rows().size(), 2U);
 }
 

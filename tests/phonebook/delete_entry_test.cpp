@@ -90,13 +90,14 @@ TEST_F(DeleteEntry, InTheMiddleLetsTheNextAddWriteOverTheLastLocation) {
   EXPECT_EQ(used(), "5");
 }
 
-struct UsedRow {
+struct UsedCountRow {
   std::string name;
   std::string before;
   std::string after;
 };
 
-class DeleteEntryOfABook : public DeleteEntry, public ::testing::WithParamInterface<UsedRow> {};
+class DeleteEntryOfABook : public DeleteEntry,
+                           public ::testing::WithParamInterface<UsedCountRow> {};
 
 TEST_P(DeleteEntryOfABook, TakesOneOffTheUsedCount) {
   layEntries({{"1", "111", "ONE"}});
@@ -111,11 +112,12 @@ TEST_P(DeleteEntryOfABook, TakesOneOffTheUsedCount) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, DeleteEntryOfABook,
-    ::testing::Values(UsedRow{.name = "BeyondSixteenBits", .before = "40000", .after = "39999"},
-                      UsedRow{.name = "AtTheirEnd", .before = "32768", .after = "32767"},
-                      UsedRow{.name = "OfAHalfToTheEvenBelow", .before = "2.5", .after = "1"},
-                      UsedRow{.name = "OfAHalfToTheEvenAbove", .before = "3.5", .after = "3"},
-                      UsedRow{.name = "OfNothing", .before = "0", .after = "-1"}),
+    ::testing::Values(
+        UsedCountRow{.name = "BeyondSixteenBits", .before = "40000", .after = "39999"},
+        UsedCountRow{.name = "AtTheirEnd", .before = "32768", .after = "32767"},
+        UsedCountRow{.name = "OfAHalfToTheEvenBelow", .before = "2.5", .after = "1"},
+        UsedCountRow{.name = "OfAHalfToTheEvenAbove", .before = "3.5", .after = "3"},
+        UsedCountRow{.name = "OfNothing", .before = "0", .after = "-1"}),
     RowName());
 
 TEST_F(DeleteEntry, OfNoneSelectedAsksForOne) {
@@ -181,7 +183,7 @@ TEST_F(DeleteEntry, WithoutItsRowInTheMirrorStillCounts) {
   EXPECT_EQ(dialBox(), "");
 }
 
-TEST_F(DeleteEntry, WithoutItsTableEndsBehindTheWindowsCounts) {
+TEST_F(DeleteEntry, WithoutItsTableEndsAfterTheWindowsCounts) {
   openBook();
   SqliteEngine().OpenDatabase(bookFile())->Execute("drop table DATA");
   reply("AT+CPBW=5", kOk);

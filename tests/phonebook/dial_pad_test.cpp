@@ -41,7 +41,7 @@ TEST_F(DialPad, HashAndStarAreAddedAndSent) {
   EXPECT_EQ(sent(), (Texts{"AT+VTS=#\r", "AT+VTS=*\r"}));
 }
 
-TEST_F(DialPad, AKeyClearsTheTranscriptBeforeAndBehindItsTone) {
+TEST_F(DialPad, AKeyClearsTheTranscriptBeforeAndAfterItsTone) {
   leaveInTranscript("old");
   reply("AT+VTS=5", kOk);
   click(calls().Image[5]);

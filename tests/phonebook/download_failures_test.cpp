@@ -38,7 +38,7 @@ struct CountsRow {
 
 class UnreadableCounts : public DownloadFailure, public ::testing::WithParamInterface<CountsRow> {};
 
-TEST_P(UnreadableCounts, EndTheDownloadBehindTheEmptyingOfTheTables) {
+TEST_P(UnreadableCounts, EndTheDownloadAfterTheEmptyingOfTheTables) {
   loadOldBook();
   downloadBehind(GetParam().reply);
   expectSilentEnd();
@@ -65,7 +65,7 @@ struct UsedRow {
 class UnreadableUsedCount : public DownloadFailure,
                             public ::testing::WithParamInterface<UsedRow> {};
 
-TEST_P(UnreadableUsedCount, EndsTheDownloadBehindTheStoringOfTheCounts) {
+TEST_P(UnreadableUsedCount, EndsTheDownloadAfterTheStoringOfTheCounts) {
   loadOldBook();
   downloadBehind(information("+CPBS: \"SM\"," + GetParam().used + ",100"));
   expectSilentEnd();
@@ -145,7 +145,7 @@ TEST_F(DownloadFailure, AMissingFileEndsItBeforeAnything) {
   EXPECT_EQ(transcript(), "AT+CPBS?\r" + information("+CPBS: \"SM\",1,100"));
 }
 
-TEST_F(DownloadFailure, AMissingTableOfCountsEndsItBehindTheEmptyingOfTheEntries) {
+TEST_F(DownloadFailure, AMissingTableOfCountsEndsItAfterTheEmptyingOfTheEntries) {
   loadOldBook();
   SqliteEngine().OpenDatabase(bookFile())->Execute("drop table Details");
   downloadBehind(information("+CPBS: \"SM\",1,100"));

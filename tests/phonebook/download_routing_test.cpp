@@ -98,7 +98,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, SwallowedByIt,
                                            BesideRow{"OfARing", "\r\nRING\r\n"}),
                          RowName());
 
-TEST_F(DownloadRouting, BehindAWaitingCallTakesTheFirstCommaOfAll) {
+TEST_F(DownloadRouting, AfterAWaitingCallTakesTheFirstCommaOfAll) {
   receive("\r\n+CCWA: \"0299999999\",129,1\r\n" + kCounts);
   settle();
   EXPECT_EQ(caller(), "Call Waiting-  0299999999");
@@ -106,7 +106,7 @@ TEST_F(DownloadRouting, BehindAWaitingCallTakesTheFirstCommaOfAll) {
   EXPECT_EQ(storedCounts(), (BookRows{{"1\r\n", "0"}}));
 }
 
-TEST_F(DownloadRouting, BehindAnEarlierCommaTakesTheTotalThere) {
+TEST_F(DownloadRouting, AfterAnEarlierCommaTakesTheTotalThere) {
   leaveInTranscript("x,1234,567,8");
   receive(kCounts);
   settle();

@@ -74,7 +74,7 @@ TEST_F(Download, ReadsAsManyLocationsAsAreUsedAndSkipsHoles) {
   EXPECT_EQ(storedCounts(), (BookRows{{"100", "3"}}));
 }
 
-TEST_F(Download, GoesOnBehindALocationThatIsRefusedSilentOrWithoutANumber) {
+TEST_F(Download, GoesOnAfterALocationThatIsRefusedSilentOrWithoutANumber) {
   answerCounts("4,100");
   reply("AT+CPBR=1", kError);
   answerEntry(3, "", "Nobody");
@@ -129,7 +129,7 @@ TEST_F(Download, LosesAnEntryWhoseReplyAKeyPressClearsAway) {
   EXPECT_EQ(storedEntries(), (BookRows{{"2", "0146290802", "Two"}}));
 }
 
-TEST_F(Download, TakesTheCarriageReturnAlongBehindAShortTotal) {
+TEST_F(Download, TakesTheCarriageReturnAlongAfterAShortTotal) {
   answerCounts("1,10");
   answerEntry(1, "0146290801", "One");
   download();

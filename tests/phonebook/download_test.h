@@ -8,7 +8,7 @@
 
 namespace gsm {
 
-/// The line in which the modem tells an entry.
+/// The line in which the modem reports an entry.
 inline std::string entryLine(int location, const std::string& number, const std::string& name) {
   return "+CPBR: " + std::to_string(location) + ",\"" + number + "\",129,\"" + name + "\"";
 }

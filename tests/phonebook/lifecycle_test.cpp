@@ -11,7 +11,7 @@
 namespace gsm {
 namespace {
 
-const std::string kRing = unsolicited("RING") + unsolicited("+CLIP: \"112\",129");
+const std::string kEmergencyRing = unsolicited("RING") + unsolicited("+CLIP: \"112\",129");
 
 // What the windows of the phone book keep while they are hidden, and lose when they are closed.
 class PhoneBookWindows : public DownloadTest {
@@ -68,7 +68,7 @@ TEST_F(PhoneBookWindows, TheCallWindowLosesItsStateWhenItIsClosedAndHangsNothing
   EXPECT_EQ(used() + "/" + total(), "1/100");
 }
 
-TEST_F(PhoneBookWindows, ACallWatchGoesOnBehindTheClosingInAWindowLoadedAnew) {
+TEST_F(PhoneBookWindows, ACallWatchGoesOnAfterTheClosingInAWindowLoadedAnew) {
   openCalls();
   calls().Text1.Text = "123";
   reply("ATD123;", kOk);
@@ -86,7 +86,7 @@ TEST_F(PhoneBookWindows, ACallWatchGoesOnBehindTheClosingInAWindowLoadedAnew) {
 TEST_F(PhoneBookWindows, TheCallWindowIsNotToldOfACallThatIsAnsweredAtThePrompt) {
   openCalls();
   calls().Label3.Caption = "before";
-  route(kRing);
+  route(kEmergencyRing);
   for (CommandButton* button : {&prompt().Command1, &prompt().Command2}) {
     click(*button);
     run(3);
@@ -141,7 +141,7 @@ TEST_F(PhoneBookWindows, TheDialBoxTakesNoTyping) {
 }
 
 TEST_F(PhoneBookWindows, ThePromptKeepsItsTextsWhileItIsHidden) {
-  take(kRing);
+  take(kEmergencyRing);
   prompt().Label2.Caption = "AutoAnswer Enabled";
   prompt().Command1.Enabled = false;
   take(unsolicited("NO CARRIER"));
@@ -149,19 +149,19 @@ TEST_F(PhoneBookWindows, ThePromptKeepsItsTextsWhileItIsHidden) {
   EXPECT_TRUE(prompt().isLoaded());
   EXPECT_EQ(caller(), "Call Received From  HELP");
   clearTranscript();
-  take(kRing);
+  take(kEmergencyRing);
   EXPECT_TRUE(promptUp());
   EXPECT_EQ(prompt().Label2.Caption.peek(), "AutoAnswer Enabled");
   EXPECT_FALSE(prompt().Command1.Enabled.peek());
 }
 
 TEST_F(PhoneBookWindows, ThePromptLosesItsStateWhenItIsClosedAndComesUpAtTheNextRing) {
-  take(kRing);
+  take(kEmergencyRing);
   prompt().Label2.Caption = "AutoAnswer Enabled";
   prompt().Command1.Enabled = false;
   close(prompt());
   EXPECT_TRUE(polls());
-  take(kRing);
+  take(kEmergencyRing);
   EXPECT_TRUE(promptUp());
   EXPECT_EQ(caller(), "Call Received From  HELP");
   EXPECT_EQ(prompt().Label2.Caption.peek(), "");
@@ -181,7 +181,7 @@ TEST_F(PhoneBookWindows, ARingWithAnEmptyBookDownloadsItFirst) {
   SqliteEngine().OpenDatabase(bookFile())->Execute("delete from DATA");
   answerCounts("1,100");
   answerEntry(1, "112", "Helper");
-  receive(kRing);
+  receive(kEmergencyRing);
   settle();
   EXPECT_EQ(sent(), (Texts{"AT+CPBS?\r", "AT+CPBR=1\r"}));
   EXPECT_EQ(caller(), "Call Received From  Helper");

@@ -165,7 +165,7 @@ TEST_F(LiteralText, ADialledNumberIsShownWithoutTheBlanksAroundItButSentWithThem
   EXPECT_EQ(callStatus(), "Dialing....12 3");
 }
 
-TEST_F(LiteralText, ADeletedIndexWithAnApostropheEndsBehindTheWindowsCounts) {
+TEST_F(LiteralText, ADeletedIndexWithAnApostropheEndsAfterTheWindowsCounts) {
   layEntries({{"1", "111", "ONE"}, {"2'", "112", "TWO"}});
   layCounts("100", "2");
   openCalls();

@@ -65,7 +65,7 @@ TEST_F(PhoneBookAtMidnight, ARingIsntRoutedButStaysForTheNext) {
   EXPECT_TRUE(polls());
 }
 
-TEST_F(PhoneBookAtMidnight, ANewMessageLeavesThePictureUpAndTellsNothing) {
+TEST_F(PhoneBookAtMidnight, ANewMessageLeavesThePictureUpAndReportsNothing) {
   const std::string line = "\r\n+CMTI: \"SM\",12\r\n";
   receive(line, 7);
   run(9.5);

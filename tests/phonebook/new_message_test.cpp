@@ -59,7 +59,7 @@ TEST_F(NewMessage, TakesAReplyThatComesWhileThePictureIsUpForItsOwn) {
   EXPECT_EQ(waiting(), 0);
 }
 
-TEST_F(NewMessage, DuringAnotherTellsTheFirstOnesIndexAndThenNone) {
+TEST_F(NewMessage, DuringAnotherReportsTheFirstOnesIndexAndThenNone) {
   Texts notes;
   panel().form8.Label4.Caption = "old";
   PropertyWatch watch(panel().form8.Label4, [&](PropertyId) { notes.push_back(note()); });
@@ -76,14 +76,14 @@ TEST_F(NewMessage, DuringAnotherTellsTheFirstOnesIndexAndThenNone) {
   EXPECT_EQ(transcript(), "");
 }
 
-TEST_F(NewMessage, InTheSameTextAsAnotherIsToldOnce) {
+TEST_F(NewMessage, InTheSameTextAsAnotherIsReportedOnce) {
   receive(unsolicited("+CMTI: \"SM\",12") + unsolicited("+CMTI: \"SM\",13"));
   settle();
   EXPECT_EQ(note(), "New Message Received.12");
 }
 
 // Each chunk that was waiting routes the notice, but the first has taken the text along.
-TEST_F(NewMessage, InSeveralChunksIsToldOnce) {
+TEST_F(NewMessage, InSeveralChunksIsReportedOnce) {
   receive("\r\n+CMTI: ");
   receive("\"SM\",12\r\n", 0.1);
   run(5.3);

@@ -8,7 +8,7 @@
 namespace gsm {
 namespace {
 
-const std::string kRing = unsolicited("RING") + unsolicited("+CLIP: \"0299999999\",129");
+const std::string kOvertakingRing = unsolicited("RING") + unsolicited("+CLIP: \"0299999999\",129");
 
 // What the user and the network do while an entry is on its way to the modem.
 class OvertakenEntry : public PhoneBookTest {
@@ -64,7 +64,7 @@ TEST_F(OvertakenDelete, ByASecondClickRemovesOneRowAndCountsOnce) {
 }
 
 TEST_F(OvertakenDelete, ByARingIsTakenForRefusedThoughThePromptComesUp) {
-  reply("AT+CPBW=3", kOk + kRing);
+  reply("AT+CPBW=3", kOk + kOvertakingRing);
   select(2);
   click(calls().Command3);
   settle();
@@ -104,7 +104,7 @@ TEST_F(OvertakenDelete, ByTheClosingOfItsWindowEndsWithoutAnySelection) {
   EXPECT_FALSE(ended());
 }
 
-TEST_F(OvertakenDelete, WithoutACountEndsBehindTheRow) {
+TEST_F(OvertakenDelete, WithoutACountEndsAfterTheRow) {
   calls().Text2.Text = "";
   reply("AT+CPBW=3", kOk);
   select(2);
@@ -164,7 +164,7 @@ TEST_F(OvertakenAdd, ByARingThatClearsItsReplyIsStoredAllTheSame) {
 
 // The commas of the echoed entry stand before that of the caller's number.
 TEST_F(OvertakenAdd, ByACallerIsStoredWithoutAPrompt) {
-  reply("AT+CPBW=4,119,,\" new\"", kOk + kRing);
+  reply("AT+CPBW=4,119,,\" new\"", kOk + kOvertakingRing);
   click(form().Command1);
   settle();
   EXPECT_FALSE(promptUp());

@@ -29,7 +29,7 @@ class Poll : public PhoneBookTest {
   }
 };
 
-TEST_F(Poll, AsksTwoSecondsBehindTheRingOnTopOfTheTranscript) {
+TEST_F(Poll, AsksTwoSecondsAfterTheRingOnTopOfTheTranscript) {
   ringNow();
   leaveInTranscript("kept");
   run(1.8);
@@ -168,7 +168,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(GoodReply{"EightFields", "", information("+CIND: 5,4,1,0,0,0,0,1")},
                       GoodReply{"TwoDigits", "", information("+CIND: 5,4,1,0,00,0,0")},
                       GoodReply{"NothingButTheCallField", "", information("+CIND: ,,,,0,,")},
-                      // The older word stands far enough behind the beginning.
+                      // The older word stands far enough after the beginning.
                       GoodReply{"AnOlderOkFarBehind", std::string(40, 'x') + "OK", kNoCall}),
     [](const ::testing::TestParamInfo<GoodReply>& row) { return row.param.name; });
 

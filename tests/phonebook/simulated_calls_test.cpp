@@ -84,7 +84,7 @@ TEST_F(SimulatedCalls, GivenUpSilentlyBeforeTheFirstPollAreTakenDownByIt) {
   EXPECT_EQ(asked(), 1);
 }
 
-TEST_F(SimulatedCalls, GivenUpSilentlyBehindAPollStayUpUntilAHandlerClears) {
+TEST_F(SimulatedCalls, GivenUpSilentlyAfterAPollStayUpUntilAHandlerClears) {
   ring(kAnna);
   run(4.2);
   ASSERT_EQ(asked(), 1);
@@ -171,7 +171,7 @@ TEST_F(SimulatedCalls, WaitingShowTheNameOnTopOfTheOther) {
   EXPECT_EQ(caller(), "Call Waiting- Ben");
 }
 
-TEST_F(SimulatedCalls, WaitingBehindAPollsAnswerAreNotSeen) {
+TEST_F(SimulatedCalls, WaitingAfterAPollsAnswerAreNotSeen) {
   ring("0299999999");
   click(prompt().Command1);
   run(12);

@@ -73,7 +73,7 @@ TEST(CodePage, MalformedTextBecomesQuestionMarksByteByByte) {
       {"\xF8\x88\x80\x80\x80", "?????"},  // five bytes
       {"\xFE\xFF", "??"},
       {"a\xC3", "a?"},
-      {"\xC3\xC3\xA4", "?\xE4"},  // the well-formed one behind is read
+      {"\xC3\xC3\xA4", "?\xE4"},  // the well-formed one after is read
   };
   for (const auto& [utf8, text] : rows)
     EXPECT_EQ(fromUtf8(utf8), text) << testing::PrintToString(utf8);

@@ -50,7 +50,7 @@ TEST_F(HeadlessLineTest, AWriteDrainsInTenBitsAByte) {
   }
 }
 
-TEST_F(HeadlessLineTest, ASecondWriteDrainsBehindTheFirst) {
+TEST_F(HeadlessLineTest, ASecondWriteDrainsAfterTheFirst) {
   open();
   line().write(std::string(96, 'a'));  // a tenth of a second
   line().write(std::string(192, 'b'));
@@ -143,7 +143,7 @@ TEST_F(HeadlessLineTest, ClosingLosesWhatHasNotLeft) {
   EXPECT_EQ(at(), 1);
 }
 
-TEST_F(HeadlessLineTest, OpeningTellsWhyItCanNot) {
+TEST_F(HeadlessLineTest, OpeningSaysWhyItCanNot) {
   EXPECT_EQ(failureOf([this] { open(9); }), 8002);
   EXPECT_EQ(failureOf([this] { open(5); }), 8005);
   EXPECT_FALSE(line().isOpen());
@@ -172,7 +172,7 @@ TEST_F(HeadlessLineTest, NobodyNeedsToListen) {
 
 class HeadlessPortsTest : public PlatformTest {};
 
-TEST_F(HeadlessPortsTest, TellsWhatAProbeWouldMeet) {
+TEST_F(HeadlessPortsTest, SaysWhatAProbeWouldMeet) {
   HeadlessPorts& ports = machine().ports;
   EXPECT_FALSE(ports.exists(1));
   ports.set({{.number = 1}, {.number = 2, .held = true}, {.number = 3, .fails = "broken"}});

@@ -82,6 +82,16 @@ TEST_F(LineRecordTest, BlotsSecretsOutInBothDirectionsAndSaysWhere) {
             "{\"at\":0.000000000,\"in\":\"**\\r\\r\\nERROR\\r\\n\",\"blotted\":[[0,2]]}\n");
 }
 
+TEST_F(LineRecordTest, ASecretThatWasCutOffByTheClosingOfThePortHidesNothingAfterIt) {
+  LineRecord record(file_, time());
+  record.received("AT+CPIN=");
+  record.closed(3);
+  record.opened(3, {}, Handshaking::none);
+  gained();
+  record.received("RING\r\n");
+  EXPECT_EQ(gained(), "{\"at\":0.000000000,\"in\":\"RING\\r\\n\"}\n");
+}
+
 TEST_F(LineRecordTest, NeverGetsLargerThanItMayAndSaysThatItIsFull) {
   constexpr std::size_t kFullSize = 14;
   for (std::size_t most = 0; most < 500; ++most) {

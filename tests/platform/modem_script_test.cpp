@@ -21,7 +21,7 @@ class ModemScriptTest : public PlatformTest, public SerialDevice::Listener {
 
   HeadlessLine& line() { return machine().line; }
 
-  /// What comes back for `write`, each chunk with its time behind the write.
+  /// What comes back for `write`, each chunk with its time after the write.
   Notes answersTo(const std::string& write) {
     begin_ = at();
     line().write(write);

@@ -71,7 +71,7 @@ TEST_F(ReplacedFileTest, LeavesTheOldFileWhenItIsNotKept) {
   EXPECT_EQ(filesLeft(), 1);
 }
 
-TEST_F(ReplacedFileTest, AFullDiskLeavesTheOldFileAndIsToldWithItsName) {
+TEST_F(ReplacedFileTest, AFullDiskLeavesTheOldFileAndIsReportedWithItsName) {
   folder_.write("COM.txt", "old");
   {
     const FullDisk full(4);

@@ -273,7 +273,7 @@ TEST_F(SettleTest, EndsAtItsLimitWithHandlersStillWaiting) {
   EXPECT_EQ(at(), 100);
 }
 
-TEST_F(SettleTest, AnEventBehindTheLimitIsLeft) {
+TEST_F(SettleTest, AnEventAfterTheLimitIsLeft) {
   noteAfter(11, "event");
   settle(10);
   EXPECT_EQ(at(), 10);

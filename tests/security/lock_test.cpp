@@ -64,7 +64,7 @@ TEST_P(Lock, SendsQuotesAndCommasAsTyped) {
   EXPECT_EQ(sent(), Texts{GetParam().command + "\",1\",2\xE9x\r"});
 }
 
-TEST_P(Lock, TellsItsSuccessInDarkBlueAfterASecond) {
+TEST_P(Lock, ReportsItsSuccessInDarkBlueAfterASecond) {
   reply(command(), kOk);
   const std::string before = caption(status());
   click(apply());
@@ -78,7 +78,7 @@ TEST_P(Lock, TellsItsSuccessInDarkBlueAfterASecond) {
   expectAtRest();
 }
 
-TEST_P(Lock, TellsItsFailureInDarkRed) {
+TEST_P(Lock, ReportsItsFailureInDarkRed) {
   reply(command(), kError);
   press(apply());
   expectTold(status(), GetParam().failure, kDarkRed);

@@ -59,7 +59,7 @@ TEST_P(Password, TakesTheBlanksOffBoth) {
   EXPECT_EQ(sent(), Texts{GetParam().command + "345678,\"6 4,2\r"});
 }
 
-TEST_P(Password, TellsItsSuccessInDarkBlueAfterASecond) {
+TEST_P(Password, ReportsItsSuccessInDarkBlueAfterASecond) {
   reply(command(), kOk);
   click(apply());
   run(0.99);
@@ -71,7 +71,7 @@ TEST_P(Password, TellsItsSuccessInDarkBlueAfterASecond) {
   expectAtRest();
 }
 
-TEST_P(Password, TellsItsFailureInDarkRed) {
+TEST_P(Password, ReportsItsFailureInDarkRed) {
   reply(command(), kError);
   press(apply());
   expectTold(status(), GetParam().failure, kDarkRed);

@@ -167,7 +167,7 @@ INSTANTIATE_TEST_SUITE_P(
         StatusRow{"NothingBehindTheName", "\r\n+CLCK:(\"PS\",", {"phone", "pin", "network"}}),
     RowName());
 
-// Replies of which the line loses everything behind some byte.
+// Replies of which the line loses everything after some byte.
 class CutLockReply : public LockStatus, public ::testing::WithParamInterface<int> {};
 
 TEST_P(CutLockReply, IsReadAsFarAsItGoes) {

@@ -125,13 +125,14 @@ INSTANTIATE_TEST_SUITE_P(Of, UnsentFacility,
                                            OptionRow{"Roaming", &Form12::Option21, ""}),
                          RowName());
 
-struct OutcomeRow {
+struct BarringOutcomeRow {
   std::string name;
   std::string reply;
   std::string shown;
 };
 
-class BarringOutcome : public BarringChange, public ::testing::WithParamInterface<OutcomeRow> {};
+class BarringOutcome : public BarringChange,
+                       public ::testing::WithParamInterface<BarringOutcomeRow> {};
 
 TEST_P(BarringOutcome, IsShownAfterFourSeconds) {
   choose({&form().Option17, &form().Option28, &form().Option22});
@@ -155,11 +156,11 @@ TEST_P(BarringOutcome, IsShownAfterFourSeconds) {
 
 INSTANTIATE_TEST_SUITE_P(
     Is, BarringOutcome,
-    ::testing::Values(OutcomeRow{"Ok", kOk, "Changes SuccessFully"},
-                      OutcomeRow{"Error", kError, "Error! Changes UnsuccessFul"},
-                      OutcomeRow{"Both", "\r\nERROR\r\n\r\nOK\r\n", "Changes SuccessFully"},
-                      OutcomeRow{"Neither", "\r\nsomething else\r\n", "Please Wait"},
-                      OutcomeRow{"Silence", "", "Please Wait"}),
+    ::testing::Values(BarringOutcomeRow{"Ok", kOk, "Changes SuccessFully"},
+                      BarringOutcomeRow{"Error", kError, "Error! Changes UnsuccessFul"},
+                      BarringOutcomeRow{"Both", "\r\nERROR\r\n\r\nOK\r\n", "Changes SuccessFully"},
+                      BarringOutcomeRow{"Neither", "\r\nsomething else\r\n", "Please Wait"},
+                      BarringOutcomeRow{"Silence", "", "Please Wait"}),
     RowName());
 
 TEST_F(BarringChange, WithoutAPortEndsSilentlyAndKeepsThePassword) {

@@ -111,7 +111,7 @@ struct FacilityRow {
 
 class BarredFacility : public BarringRead, public ::testing::WithParamInterface<FacilityRow> {};
 
-TEST_P(BarredFacility, IsToldWhileItReadsOnly) {
+TEST_P(BarredFacility, IsReportedWhileItReadsOnly) {
   answer(GetParam().facility, information("+CLCK: 1,1"));
   EXPECT_EQ(shownAfter(GetParam().place), GetParam().place == 4 ? kNothing : GetParam().barred);
   settle();
@@ -120,13 +120,13 @@ TEST_P(BarredFacility, IsToldWhileItReadsOnly) {
   expectAtRest();
 }
 
-TEST_P(BarredFacility, IsToldWhenItIsNotBarred) {
+TEST_P(BarredFacility, IsReportedWhenItIsNotBarred) {
   answer(GetParam().facility, kNotBarred);
   turnTo(barring);
   EXPECT_EQ(shown(), GetParam().notBarred);
 }
 
-// The class of the last two stands behind an error: with the echo on, and no error, that is the
+// The class of the last two stands after an error: with the echo on, and no error, that is the
 // quote in the command, and no words come.
 INSTANTIATE_TEST_SUITE_P(
     Is, BarredFacility,
@@ -169,7 +169,7 @@ struct ClassRow {
 
 class BarredClass : public BarringRead, public ::testing::WithParamInterface<ClassRow> {};
 
-TEST_P(BarredClass, StandsBehindTheBarredWords) {
+TEST_P(BarredClass, StandsAfterTheBarredWords) {
   answer("AO", information("+CLCK: 1," + GetParam().digit));
   EXPECT_EQ(shownAfter(0), GetParam().words);
 }
@@ -195,7 +195,7 @@ TEST_F(BarringRead, WithoutEchoTheNinthCharacterMayBeADigit) {
             "Please Wait.... Current Status:OutGoing Internet Calls Barred For Voice");
 }
 
-// Up to the last wait's end only: the list is shown right behind it.
+// Up to the last wait's end only: the list is shown right after it.
 TEST_F(BarringRead, WithoutEchoTheLastFacilityHasItsWordsToo) {
   inPanel([this] {
     form1().Text1.append("\n+CLCK: 1,7");
@@ -214,7 +214,7 @@ TEST_F(BarringRead, WithoutEchoTheLastFacilityHasItsWordsToo) {
                    kNothing}));
 }
 
-TEST_F(BarringRead, BesideAnErrorTheClassStandsNineBehindIt) {
+TEST_F(BarringRead, BesideAnErrorTheClassStandsNineAfterIt) {
   answer("AI", "\r\n+CLCK: 1,1\r\n\r\nERROR12342\r\n");
   EXPECT_EQ(shownAfter(3),
             "Please Wait.... Current Status:OutGoing Internet Calls Barred For Data");
@@ -234,12 +234,12 @@ TEST_F(BarringRead, OfSeveralClassesTheFirstLineCounts) {
   EXPECT_EQ(shown(), ",      OutGoing International Calls Not Barred,     ,     ,     ");
 }
 
-struct BrokenRow {
+struct BrokenStatusRow {
   std::string name;
   std::string reply;
 };
 
-class BrokenStatus : public BarringRead, public ::testing::WithParamInterface<BrokenRow> {};
+class BrokenStatus : public BarringRead, public ::testing::WithParamInterface<BrokenStatusRow> {};
 
 TEST_P(BrokenStatus, EndsTheReadAndLeavesTheChangeLocked) {
   answer("OI", GetParam().reply);
@@ -260,10 +260,11 @@ TEST_P(BrokenStatus, IsOverWithTheNextReadThatEnds) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, BrokenStatus,
-                         ::testing::Values(BrokenRow{"ALetter", information("+CLCK: x,1")},
-                                           BrokenRow{"Nothing", "\r\n+CLCK: "},
-                                           BrokenRow{"ABlankTooMany", information("+CLCK:  1,1")},
-                                           BrokenRow{"NoBlank", information("+CLCK:1,1")}),
+                         ::testing::Values(BrokenStatusRow{"ALetter", information("+CLCK: x,1")},
+                                           BrokenStatusRow{"Nothing", "\r\n+CLCK: "},
+                                           BrokenStatusRow{"ABlankTooMany",
+                                                           information("+CLCK:  1,1")},
+                                           BrokenStatusRow{"NoBlank", information("+CLCK:1,1")}),
                          RowName());
 
 TEST_F(BarringRead, WithoutAPortEndsSilentlyAndLeavesTheChangeLocked) {

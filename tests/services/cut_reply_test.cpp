@@ -5,7 +5,7 @@
 namespace gsm {
 namespace {
 
-// Replies of which the line loses everything behind some byte.
+// Replies of which the line loses everything after some byte.
 class CutServiceReply : public ServicesTest, public ::testing::WithParamInterface<int> {
  protected:
   void SetUp() override {

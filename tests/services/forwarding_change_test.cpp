@@ -115,7 +115,7 @@ INSTANTIATE_TEST_SUITE_P(Of, ForwardingReason,
 
 class ForwardingClass : public ForwardingChange, public ::testing::WithParamInterface<ReasonRow> {};
 
-TEST_P(ForwardingClass, IsSentBehindTheNumber) {
+TEST_P(ForwardingClass, IsSentAfterTheNumber) {
   choose({&form().Option1, &form().Option7, &(form().*GetParam().option)});
   enter(kNumber);
   press(form().Command1);
@@ -153,14 +153,14 @@ TEST_F(ForwardingChange, ToEraseNeedsNeitherNumberNorClass) {
   EXPECT_EQ(caption(form().Label2), "Changes SuccessFul");
 }
 
-struct OutcomeRow {
+struct ForwardingOutcomeRow {
   std::string name;
   std::string reply;
   std::string shown;
 };
 
 class ForwardingOutcome : public ForwardingChange,
-                          public ::testing::WithParamInterface<OutcomeRow> {};
+                          public ::testing::WithParamInterface<ForwardingOutcomeRow> {};
 
 TEST_P(ForwardingOutcome, OfRegisteringIsShownAfterThreeSeconds) {
   choose({&form().Option1, &form().Option7, &form().Option12});
@@ -207,14 +207,14 @@ TEST_P(ForwardingOutcome, DoesntReadTheStateBack) {
   EXPECT_EQ(forwardingShown()[0], "as read");
 }
 
-INSTANTIATE_TEST_SUITE_P(Is, ForwardingOutcome,
-                         ::testing::Values(OutcomeRow{"Ok", kOk, "Changes SuccessFul"},
-                                           OutcomeRow{"Error", kError, "Changes UnSuccessFul"},
-                                           OutcomeRow{"Both", "\r\nERROR\r\n\r\nOK\r\n",
-                                                      "Changes SuccessFul"},
-                                           OutcomeRow{"Neither", "\r\nsomething else\r\n", ""},
-                                           OutcomeRow{"Silence", "", ""}),
-                         RowName());
+INSTANTIATE_TEST_SUITE_P(
+    Is, ForwardingOutcome,
+    ::testing::Values(ForwardingOutcomeRow{"Ok", kOk, "Changes SuccessFul"},
+                      ForwardingOutcomeRow{"Error", kError, "Changes UnSuccessFul"},
+                      ForwardingOutcomeRow{"Both", "\r\nERROR\r\n\r\nOK\r\n", "Changes SuccessFul"},
+                      ForwardingOutcomeRow{"Neither", "\r\nsomething else\r\n", ""},
+                      ForwardingOutcomeRow{"Silence", "", ""}),
+    RowName());
 
 TEST_F(ForwardingChange, WithoutAPortEndsSilentlyAndKeepsTheNumber) {
   choose({&form().Option1, &form().Option7, &form().Option12});

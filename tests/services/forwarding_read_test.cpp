@@ -211,7 +211,7 @@ TEST_P(ForwardingReplyWithoutNumber, EndsTheLoadWhereItStands) {
   expectAtRest();
 }
 
-TEST_P(ForwardingReplyWithoutNumber, LeavesTheReasonsBehindItUnread) {
+TEST_P(ForwardingReplyWithoutNumber, LeavesTheReasonsAfterItUnread) {
   reply("AT+CCFC=1,2", GetParam().reply);
   beginLoad();
   settle();
@@ -302,7 +302,7 @@ TEST_F(ForwardingReader, PutsTheNumberInThePlaceOfWhatTheLabelHeld) {
   EXPECT_EQ(caption(form().Label11), "UNCONDITIONAL-Call Forward  Active For Voice 0146");
 }
 
-TEST_F(ForwardingReader, KeepsWhatTheLabelHeldBehindAReplyWithoutANumber) {
+TEST_F(ForwardingReader, KeepsWhatTheLabelHeldAfterAReplyWithoutANumber) {
   inPanel([this] { form().ParseForwardReply(0, "+CCFC: 0,7\r\n\r\nOK"); });
   run(0);
   EXPECT_EQ(caption(form().Label11), "UNCONDITIONAL-Call Forward Not Active For All Classes old");

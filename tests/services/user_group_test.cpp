@@ -160,12 +160,12 @@ TEST_F(UserGroup, AReplyWithoutEchoIsReadTheSame) {
             "Current Status: CUG Mode Enabled    ,CUG Index 10   ,Suppress Preferential CUG");
 }
 
-struct BrokenRow {
+struct BrokenGroupRow {
   std::string name;
   std::string reply;
 };
 
-class BrokenGroup : public UserGroup, public ::testing::WithParamInterface<BrokenRow> {};
+class BrokenGroup : public UserGroup, public ::testing::WithParamInterface<BrokenGroupRow> {};
 
 TEST_P(BrokenGroup, KeepsTheWaitAndTheTranscript) {
   reply("AT+CCUG?", GetParam().reply);
@@ -177,10 +177,10 @@ TEST_P(BrokenGroup, KeepsTheWaitAndTheTranscript) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, BrokenGroup,
-                         ::testing::Values(BrokenRow{"NoComma", information("+CCUG: 1")},
-                                           BrokenRow{"OneComma", information("+CCUG: 1,2")},
-                                           BrokenRow{"NoOk", "\r\n+CCUG: 1,2,0\r\n"},
-                                           BrokenRow{"Nothing", "\r\n+CCUG:"}),
+                         ::testing::Values(BrokenGroupRow{"NoComma", information("+CCUG: 1")},
+                                           BrokenGroupRow{"OneComma", information("+CCUG: 1,2")},
+                                           BrokenGroupRow{"NoOk", "\r\n+CCUG: 1,2,0\r\n"},
+                                           BrokenGroupRow{"Nothing", "\r\n+CCUG:"}),
                          RowName());
 
 class UserGroupChange : public UserGroup {

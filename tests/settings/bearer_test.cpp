@@ -240,13 +240,13 @@ TEST_F(Bearer, WithoutBothChoicesDoesNothingAtAll) {
   expectAtRest();
 }
 
-struct OutcomeRow {
+struct BearerOutcomeRow {
   std::string name;
   std::string answer;
   std::string shown;
 };
 
-class BearerOutcome : public Bearer, public ::testing::WithParamInterface<OutcomeRow> {};
+class BearerOutcome : public Bearer, public ::testing::WithParamInterface<BearerOutcomeRow> {};
 
 TEST_P(BearerOutcome, IsShownAfterASecond) {
   inPanel([this] { form1().MSComm1.SThreshold = 0; });
@@ -271,14 +271,14 @@ TEST_P(BearerOutcome, IsShownAfterASecond) {
   expectAtRest();
 }
 
-INSTANTIATE_TEST_SUITE_P(Is, BearerOutcome,
-                         ::testing::Values(OutcomeRow{"Ok", kOk, "Changes SuccessFul"},
-                                           OutcomeRow{"Error", kError, "Changes UnsuccessFul"},
-                                           OutcomeRow{"Both", "\r\nERROR\r\n\r\nOK\r\n",
-                                                      "Changes SuccessFul"},
-                                           OutcomeRow{"Neither", "\r\nok\r\n", "before"},
-                                           OutcomeRow{"Silence", "", "before"}),
-                         RowName());
+INSTANTIATE_TEST_SUITE_P(
+    Is, BearerOutcome,
+    ::testing::Values(BearerOutcomeRow{"Ok", kOk, "Changes SuccessFul"},
+                      BearerOutcomeRow{"Error", kError, "Changes UnsuccessFul"},
+                      BearerOutcomeRow{"Both", "\r\nERROR\r\n\r\nOK\r\n", "Changes SuccessFul"},
+                      BearerOutcomeRow{"Neither", "\r\nok\r\n", "before"},
+                      BearerOutcomeRow{"Silence", "", "before"}),
+    RowName());
 
 TEST_F(Bearer, AChangeWithoutAPortEndsSilently) {
   pick(form().Combo1, 1);

@@ -2,17 +2,11 @@
 
 #include <initializer_list>
 #include <string>
-#include <vector>
 
-#include "panel/form1.h"
 #include "settings/form15.h"
-#include "tests/support/modem_bytes.h"
-#include "tests/support/routing_test.h"
-#include "tests/support/rows.h"
+#include "tests/support/feature_window_test.h"
 
 namespace gsm {
-
-using Texts = std::vector<std::string>;
 
 inline const Texts kLineCommands = {"AT+IPR=9600", "AT+ICF=3,4", "AT+IFC=2,2", "AT&C1",
                                     "AT&D1",       "AT&S0",      "ATE1",       "AT&W"};
@@ -38,10 +32,10 @@ inline std::string afterFailureOf(std::size_t step) {
 
 /// The window of the line settings over an open port with a scripted modem. The port tells of
 /// nothing that it has sent, so that a step under a silent modem takes its second and no more.
-class LineSettingsTest : public RoutingTest {
+class LineSettingsTest : public FeatureWindowTest {
  protected:
   void SetUp() override {
-    RoutingTest::SetUp();
+    FeatureWindowTest::SetUp();
     openWindow();
   }
 
@@ -82,18 +76,7 @@ class LineSettingsTest : public RoutingTest {
     for (const std::string& command : kLineCommands) reply(command, text);
   }
 
-  void closePort() {
-    inPanel([this] { form1().MSComm1.PortOpen = false; });
-    run(0);
-  }
-
-  /// No handler waits, no box came up, and the program goes on.
-  void expectAtRest() {
-    EXPECT_EQ(waiting(), 0);
-    EXPECT_EQ(boxes(), Texts{});
-    EXPECT_FALSE(ended());
-  }
-
+  Window& window() override { return form(); }
   Form15& form() { return panel().form15; }
   std::string status() { return form().Label1.Caption.peek(); }
   std::string speedShown() { return form1().Label6.Caption.peek(); }

@@ -96,14 +96,15 @@ TEST_F(LineSteps, ShowTheirRatesAndFramingAsSoonAsTheyAreTaken) {
   EXPECT_EQ(framingShown(), std::string(kFramingShown) + "ECHO:Enable");
 }
 
-struct OutcomeRow {
+struct StepOutcomeRow {
   std::string name;
   std::string reply;
   bool taken;
   bool failed;
 };
 class StepOutcome : public LineSteps,
-                    public ::testing::WithParamInterface<std::tuple<std::size_t, OutcomeRow>> {};
+                    public ::testing::WithParamInterface<std::tuple<std::size_t, StepOutcomeRow>> {
+};
 
 TEST_P(StepOutcome, IsShownOnItsOwnPlaceAndTheOtherStepsAreMade) {
   const auto& [step, outcome] = GetParam();
@@ -124,14 +125,14 @@ INSTANTIATE_TEST_SUITE_P(
     Of, StepOutcome,
     ::testing::Combine(
         ::testing::Range(std::size_t{0}, std::size_t{8}),
-        ::testing::Values(OutcomeRow{"Ok", kOk, true, false},
-                          OutcomeRow{"Error", kError, false, true},
-                          OutcomeRow{"ErrorWithACode", "\r\n+CME ERROR: 4\r\n", false, true},
-                          OutcomeRow{"Both", "\r\nOK\r\n\r\nERROR\r\n", true, true},
-                          OutcomeRow{"BothTheOtherWayRound", "\r\nERROR\r\n\r\nOK\r\n", true, true},
-                          OutcomeRow{"SmallLetters", "\r\nok\r\nerror\r\n", false, false},
-                          OutcomeRow{"Noise", "\r\n\x80\xFF?\r\n", false, false},
-                          OutcomeRow{"TheEchoAlone", "", false, false})),
+        ::testing::Values(
+            StepOutcomeRow{"Ok", kOk, true, false}, StepOutcomeRow{"Error", kError, false, true},
+            StepOutcomeRow{"ErrorWithACode", "\r\n+CME ERROR: 4\r\n", false, true},
+            StepOutcomeRow{"Both", "\r\nOK\r\n\r\nERROR\r\n", true, true},
+            StepOutcomeRow{"BothTheOtherWayRound", "\r\nERROR\r\n\r\nOK\r\n", true, true},
+            StepOutcomeRow{"SmallLetters", "\r\nok\r\nerror\r\n", false, false},
+            StepOutcomeRow{"Noise", "\r\n\x80\xFF?\r\n", false, false},
+            StepOutcomeRow{"TheEchoAlone", "", false, false})),
     [](const auto& row) {
       return std::get<1>(row.param).name + "ToStep" + std::to_string(std::get<0>(row.param) + 1);
     });

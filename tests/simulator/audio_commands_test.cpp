@@ -5,7 +5,7 @@
 namespace gsm::simulator {
 namespace {
 
-TEST(AudioCommands, GainsAreToldAsTheLowerEdgeOfTheirStep) {
+TEST(AudioCommands, GainsAreReportedAsTheLowerEdgeOfTheirStep) {
   struct GainRow {
     const char* command;
     const char* told;

@@ -36,7 +36,7 @@ class Bench {
     return listen(time);
   }
 
-  // Writes a command with its carriage return and returns what arrives behind its echo; all that
+  // Writes a command with its carriage return and returns what arrives after its echo; all that
   // arrives when there is no echo.
   std::string ask(const std::string& command, std::chrono::nanoseconds time = seconds(1)) {
     const std::string reply = write(command + "\r", time);
@@ -93,6 +93,15 @@ class Bench {
 
 inline constexpr const char* kOk = "\r\nOK\r\n";
 inline constexpr const char* kError = "\r\nERROR\r\n";
+inline constexpr const char* kNoCarrier = "\r\nNO CARRIER\r\n";
+
+// The errors with a number, where the host has asked for them.
+inline std::string cmeError(int number) {
+  return "\r\n+CME ERROR: " + std::to_string(number) + "\r\n";
+}
+inline std::string cmsError(int number) {
+  return "\r\n+CMS ERROR: " + std::to_string(number) + "\r\n";
+}
 
 // An information response with its OK, as the host receives it.
 inline std::string withOk(const std::string& text) { return "\r\n" + text + "\r\n\r\nOK\r\n"; }

@@ -6,8 +6,6 @@
 namespace gsm::simulator {
 namespace {
 
-constexpr const char* kNoCarrier = "\r\nNO CARRIER\r\n";
-
 TEST_F(Callers, WaitDuringACallAndAreAnnouncedWhenAskedFor) {
   talk();
   EXPECT_EQ(after("wait 0146290800"), "");

@@ -9,8 +9,6 @@ namespace gsm::simulator {
 namespace {
 
 constexpr const char* kRing = "\r\nRING\r\n";
-constexpr const char* kNoCarrier = "\r\nNO CARRIER\r\n";
-
 TEST_F(Callers, RingAtOnceAndEveryFiveSeconds) {
   EXPECT_EQ(after("ring 0123"), kRing);
   EXPECT_EQ(bench_.listen(milliseconds(3900)), "");
@@ -18,7 +16,7 @@ TEST_F(Callers, RingAtOnceAndEveryFiveSeconds) {
   EXPECT_EQ(bench_.listen(seconds(10)), std::string(kRing) + kRing);
 }
 
-TEST_F(Callers, TellTheirNumberBehindEveryRingWhenAskedFor) {
+TEST_F(Callers, ReportTheirNumberAfterEveryRingWhenAskedFor) {
   bench_.ask("AT+CLIP=1");
   EXPECT_EQ(after("ring +33612345678"), "\r\nRING\r\n\r\n+CLIP: \"+33612345678\",145\r\n");
   EXPECT_EQ(bench_.listen(seconds(5)), "\r\nRING\r\n\r\n+CLIP: \"+33612345678\",145\r\n");
@@ -31,7 +29,7 @@ TEST_F(Callers, MayHideTheirNumber) {
   EXPECT_EQ(after("ring hidden"), "\r\nRING\r\n\r\n+CLIP: \"\",129\r\n");
 }
 
-TEST_F(Callers, TellTheirKindWhenAskedFor) {
+TEST_F(Callers, ReportTheirKindWhenAskedFor) {
   bench_.ask("AT+CRC=1;+CLIP=1");
   EXPECT_EQ(after("ring 0123"), "\r\n+CRING: VOICE\r\n\r\n+CLIP: \"0123\",129\r\n");
 }

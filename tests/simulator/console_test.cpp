@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* kDone = "";
 
-TEST(Console, SignalSetsWhatCsqTells) {
+TEST(Console, SignalSetsWhatCsqReports) {
   Bench bench;
   EXPECT_EQ(bench.modem.console("signal 31 5"), kDone);
   EXPECT_EQ(bench.ask("AT+CSQ"), withOk("+CSQ: 31,5"));
@@ -198,7 +198,7 @@ TEST(Console, HelpHasOneLineForEveryCommand) {
   EXPECT_EQ("\n" + bench.modem.console("help"), help);
 }
 
-TEST(Console, HelpTellsWhichCommandsFollowTheStandardAlone) {
+TEST(Console, HelpSaysWhichCommandsFollowTheStandardAlone) {
   const std::string help = consoleHelp();
   const std::string last = help.substr(help.rfind('\n') + 1);
   EXPECT_TRUE(last.starts_with("answered by the AT standard alone: "));

@@ -17,7 +17,7 @@ TEST(Cutter, WholeLeavesTheBytesTogether) {
   EXPECT_EQ(pieces(Cutter::whole(), "\r\nOK\r\n"), Pieces{"\r\nOK\r\n"});
 }
 
-TEST(Cutter, RealCutsBehindEveryLineEnd) {
+TEST(Cutter, RealCutsAfterEveryLineEnd) {
   EXPECT_EQ(pieces(Cutter::real(), "\r\n+CSQ: 17,0\r\n\r\nOK\r\n"),
             (Pieces{"\r", "\n", "+CSQ: 17,0\r", "\n", "\r", "\n", "OK\r", "\n"}));
   EXPECT_EQ(pieces(Cutter::real(), "\r\n> "), (Pieces{"\r", "\n", "> "}));

@@ -5,8 +5,6 @@
 namespace gsm::simulator {
 namespace {
 
-constexpr const char* kNoCarrier = "\r\nNO CARRIER\r\n";
-
 // What arrives from the end of `bench.write(command)` until `time` later.
 std::string dialed(Bench& bench, const std::string& command, std::chrono::nanoseconds time) {
   std::string all = bench.write(command + "\r");
@@ -53,7 +51,7 @@ TEST(DialCommands, IndicationsAccompanyTheCall) {
             "ATD0128;\r\r\n+WIND: 5,1\r\n\r\n+WIND: 2\r\n\r\nNO ANSWER\r\n\r\n+WIND: 6,1\r\n");
 }
 
-TEST(DialCommands, WhatCommandsBeforeItLeftForTheEndIsDoneBehindTheResult) {
+TEST(DialCommands, WhatCommandsBeforeItLeftForTheEndIsDoneAfterTheResult) {
   Bench bench;
   EXPECT_EQ(dialed(bench, "AT+IPR=19200;D0127;", milliseconds(900)), "AT+IPR=19200;D0127;\r");
   EXPECT_EQ(bench.modem.speed(), 9600);
@@ -123,7 +121,7 @@ TEST(DialCommands, OneCallAtATimeIsMade) {
   EXPECT_EQ(bench.ask("ATD0124;"), "\r\n+CME ERROR: 3\r\n");
 }
 
-TEST(DialCommands, RedialTellsTheNumberBehindTheEchoAndThenDials) {
+TEST(DialCommands, RedialReportsTheNumberAfterTheEchoAndThenDials) {
   Bench bench;
   dialed(bench, "ATD0146290800;", seconds(4));
   bench.ask("ATH");
@@ -133,7 +131,7 @@ TEST(DialCommands, RedialTellsTheNumberBehindTheEchoAndThenDials) {
   EXPECT_EQ(dialed(bench, "ATDL;", seconds(4)), "ATDL;\r\r\n0146290800;\r\n\r\nOK\r\n");
 }
 
-TEST(DialCommands, RedialTellsTheNumberBeforeTheIndications) {
+TEST(DialCommands, RedialReportsTheNumberBeforeTheIndications) {
   Bench bench;
   bench.ask("AT+WIND=1023");
   dialed(bench, "ATD+017;", seconds(4));
@@ -148,7 +146,7 @@ TEST(DialCommands, RedialWithoutANumberIsAnError) {
   EXPECT_EQ(bench.ask("ATDL"), kError);
 }
 
-TEST(DialCommands, RedialNeedsTheCardTooAndThenTellsNoNumber) {
+TEST(DialCommands, RedialNeedsTheCardTooAndThenGivesNoNumber) {
   Bench bench;
   dialed(bench, "ATD017;", seconds(4));
   bench.modem.console("sim out");

@@ -13,9 +13,11 @@ namespace {
 
 FaultPointer fault(std::string_view text) { return std::get<FaultPointer>(parseFault(text)); }
 
-std::string complaint(std::string_view text) { return std::get<std::string>(parseFault(text)); }
+std::string complaintAbout(std::string_view text) {
+  return std::get<std::string>(parseFault(text));
+}
 
-// What is left of a transmission behind the faults, which are given in order.
+// What is left of a transmission after the faults, which are given in order.
 Transmission through(const std::vector<std::string>& faults, Transmission transmission,
                      std::uint64_t seed = 1) {
   FaultChain chain(seed);
@@ -97,16 +99,17 @@ TEST(Fault, NamesAndParserAgree) {
   }
 }
 
-TEST(Fault, ComplaintsTellWhatWouldBeRight) {
+TEST(Fault, ComplaintsSayWhatWouldBeRight) {
   for (const char* bad : {"cut", "cut 0", "cut x", "cut -1"}) {
-    EXPECT_EQ(complaint(bad), "the fault cut wants BYTES, a number above 0") << bad;
+    EXPECT_EQ(complaintAbout(bad), "the fault cut wants BYTES, a number above 0") << bad;
   }
   for (const char* bad : {"garble", "garble 1.5", "garble -0.1", "garble nan", "garble x"}) {
-    EXPECT_EQ(complaint(bad), "the fault garble wants PROBABILITY per byte, 0 to 1") << bad;
+    EXPECT_EQ(complaintAbout(bad), "the fault garble wants PROBABILITY per byte, 0 to 1") << bad;
   }
-  EXPECT_EQ(complaint("delay 600001"), "the fault delay wants MILLISECONDS, 0 to 600000");
-  EXPECT_EQ(complaint("interject"), "the fault interject wants TEXT of an unsolicited line");
-  EXPECT_EQ(complaint("melt 3"), "no fault 'melt'; there are cut, delay, garble, drop, interject");
+  EXPECT_EQ(complaintAbout("delay 600001"), "the fault delay wants MILLISECONDS, 0 to 600000");
+  EXPECT_EQ(complaintAbout("interject"), "the fault interject wants TEXT of an unsolicited line");
+  EXPECT_EQ(complaintAbout("melt 3"),
+            "no fault 'melt'; there are cut, delay, garble, drop, interject");
 }
 
 TEST(Modem, RunsTheSameWithTheSameSeedThroughAllFaults) {

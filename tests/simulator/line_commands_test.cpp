@@ -36,7 +36,7 @@ TEST(LineCommands, SpeedCanBeReadAndListed) {
             withOk("+IPR: (0,300,600,1200,2400,4800,9600,19200,38400,57600,115200)"));
 }
 
-TEST(LineCommands, NewSpeedStartsBehindTheOk) {
+TEST(LineCommands, NewSpeedStartsAfterTheOk) {
   for (const int speed : kLineSpeeds) {
     if (speed == Bench::kSpeed) continue;
     Bench bench;

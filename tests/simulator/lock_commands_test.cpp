@@ -6,8 +6,6 @@
 namespace gsm::simulator {
 namespace {
 
-std::string code(int number) { return "\r\n+CME ERROR: " + std::to_string(number) + "\r\n"; }
-
 class LockCommands : public testing::Test {
  protected:
   LockCommands() { bench_.ask("AT+CMEE=1"); }
@@ -56,32 +54,32 @@ class Locks : public testing::TestWithParam<LockRow> {
 
 TEST_P(Locks, TurnOnAndOffWithTheirPassword) {
   EXPECT_EQ(state(), withOk("+CLCK: 0"));
-  EXPECT_EQ(set("1", GetParam().wrong), code(16));
+  EXPECT_EQ(set("1", GetParam().wrong), cmeError(16));
   EXPECT_EQ(state(), withOk("+CLCK: 0"));
   EXPECT_EQ(set("1", GetParam().password), kOk);
   EXPECT_EQ(state(), withOk("+CLCK: 1"));
-  EXPECT_EQ(set("0", GetParam().wrong), code(16));
-  EXPECT_EQ(set("0", ""), code(16));
+  EXPECT_EQ(set("0", GetParam().wrong), cmeError(16));
+  EXPECT_EQ(set("0", ""), cmeError(16));
   EXPECT_EQ(state(), withOk("+CLCK: 1"));
   EXPECT_EQ(set("0", GetParam().password), kOk);
   EXPECT_EQ(state(), withOk("+CLCK: 0"));
 }
 
 TEST_P(Locks, RefuseWhatTheyAreAlready) {
-  EXPECT_EQ(set("0", GetParam().password), code(3));
+  EXPECT_EQ(set("0", GetParam().password), cmeError(3));
   set("1", GetParam().password);
-  EXPECT_EQ(set("1", GetParam().password), code(3));
+  EXPECT_EQ(set("1", GetParam().password), cmeError(3));
   bench_.ask("AT+CMEE=0");
   EXPECT_EQ(set("1", GetParam().password), kError);
 }
 
 TEST_P(Locks, ChangeTheirPasswordWhileTheyAreOn) {
-  EXPECT_EQ(change(GetParam().password, GetParam().changed), code(3));
+  EXPECT_EQ(change(GetParam().password, GetParam().changed), cmeError(3));
   set("1", GetParam().password);
-  EXPECT_EQ(change(GetParam().wrong, GetParam().changed), code(16));
-  EXPECT_EQ(change(GetParam().password, "12x"), code(16));
+  EXPECT_EQ(change(GetParam().wrong, GetParam().changed), cmeError(16));
+  EXPECT_EQ(change(GetParam().password, "12x"), cmeError(16));
   EXPECT_EQ(change(GetParam().password, GetParam().changed), kOk);
-  EXPECT_EQ(set("0", GetParam().password), code(16));
+  EXPECT_EQ(set("0", GetParam().password), cmeError(16));
   EXPECT_EQ(set("0", GetParam().changed), kOk);
 }
 
@@ -106,10 +104,10 @@ TEST_F(LockCommands, ThirdWrongPinBlocksTheCardWithTheNetwork) {
   bench_.ask("AT+CLCK=\"SC\",1,9999");
   bench_.ask("AT+CLCK=\"SC\",1,9998");
   EXPECT_EQ(bench_.ask("AT+CPIN?"), "\r\n+CPIN: READY\r\n");
-  EXPECT_EQ(bench_.ask("AT+CLCK=\"SC\",1,9997"), code(16));
+  EXPECT_EQ(bench_.ask("AT+CLCK=\"SC\",1,9997"), cmeError(16));
   EXPECT_EQ(bench_.ask("AT+CPIN?"), "\r\n+CPIN: SIM PUK\r\n");
   EXPECT_EQ(bench_.ask("AT+CREG?"), withOk("+CREG: 0,0"));
-  EXPECT_EQ(bench_.ask("AT+CLCK?"), code(12));
+  EXPECT_EQ(bench_.ask("AT+CLCK?"), cmeError(12));
   EXPECT_EQ(bench_.ask("AT+CPIN=12345678,4444"), kOk);
   EXPECT_EQ(bench_.ask("AT+CLCK=\"SC\",0,4444"), kOk);
 }
@@ -134,7 +132,7 @@ TEST_F(LockCommands, CardAsksForItsPinOnceItIsTurnedOn) {
   bench_.modem.console("sim in");
   bench_.listen();
   EXPECT_EQ(bench_.ask("AT+CPIN?"), "\r\n+CPIN: SIM PIN\r\n");
-  EXPECT_EQ(bench_.ask("AT+CPIN=1234"), code(16));
+  EXPECT_EQ(bench_.ask("AT+CPIN=1234"), cmeError(16));
   EXPECT_EQ(bench_.ask("AT+CPIN=5678"), kOk);
   EXPECT_EQ(bench_.ask("AT+CLCK=\"SC\",0,5678"), kOk);
   bench_.modem.console("sim out");
@@ -147,7 +145,7 @@ TEST_F(LockCommands, LocksThatCantBeUsedAreOffAndStaySo) {
   for (const char* name : {"FD", "PU", "PP", "PC"}) {
     const std::string command = std::string("AT+CLCK=\"") + name + "\",";
     EXPECT_EQ(bench_.ask(command + "2"), withOk("+CLCK: 0"));
-    EXPECT_EQ(bench_.ask(command + "1,1234"), code(3));
+    EXPECT_EQ(bench_.ask(command + "1,1234"), cmeError(3));
   }
 }
 
@@ -158,15 +156,15 @@ TEST_F(LockCommands, BadOnesAreRefused) {
       {"AT+CLCK=\"PS\",x", kError},
       {"AT+CLCK=\"AO\",1,0000,1,1", kError},
       {"AT+CLCK=\"AO\",1,0000,x", kError},
-      {"AT+CLCK=\"XX\",2", code(4)},
-      {"AT+CLCK=\"PS\",3", code(4)},
-      {"AT+CLCK=\"AO\",1,0000,0", code(4)},
-      {"AT+CLCK=\"AB\",2", code(4)},
-      {"AT+CLCK=\"AG\",1,0000", code(4)},
+      {"AT+CLCK=\"XX\",2", cmeError(4)},
+      {"AT+CLCK=\"PS\",3", cmeError(4)},
+      {"AT+CLCK=\"AO\",1,0000,0", cmeError(4)},
+      {"AT+CLCK=\"AB\",2", cmeError(4)},
+      {"AT+CLCK=\"AG\",1,0000", cmeError(4)},
       {"AT+CPWD=", kError},
       {"AT+CPWD=\"PS\",1", kError},
       {"AT+CPWD=\"PS\",1,2,3", kError},
-      {"AT+CPWD=\"P2\",1,2", code(4)},
+      {"AT+CPWD=\"P2\",1,2", cmeError(4)},
       {"AT+CLCK", kError},
       {"AT+CPWD?", kError},
   };
@@ -176,9 +174,9 @@ TEST_F(LockCommands, BadOnesAreRefused) {
 TEST_F(LockCommands, NothingIsKnownWithoutACard) {
   bench_.modem.console("sim out");
   bench_.listen();
-  EXPECT_EQ(bench_.ask("AT+CLCK?"), code(10));
-  EXPECT_EQ(bench_.ask("AT+CLCK=\"PS\",2"), code(10));
-  EXPECT_EQ(bench_.ask("AT+CPWD=\"PS\",12345678,11112222"), code(10));
+  EXPECT_EQ(bench_.ask("AT+CLCK?"), cmeError(10));
+  EXPECT_EQ(bench_.ask("AT+CLCK=\"PS\",2"), cmeError(10));
+  EXPECT_EQ(bench_.ask("AT+CPWD=\"PS\",12345678,11112222"), cmeError(10));
 }
 
 TEST_F(LockCommands, BarringsAreOffFirst) {
@@ -213,11 +211,11 @@ TEST_F(LockCommands, GroupOfBarringsIsLiftedAsOne) {
 }
 
 TEST_F(LockCommands, ThirdWrongNetworkPasswordLocksIt) {
-  EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"AO\",1,1,7"), code(16));
-  EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"AI\",1,1234,7"), code(16));
-  EXPECT_EQ(bench_.askNetwork("AT+CPWD=\"OI\",1234,5555"), code(16));
-  EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"AO\",1,0000,7"), code(3));
-  EXPECT_EQ(bench_.askNetwork("AT+CPWD=\"AO\",0000,5555"), code(3));
+  EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"AO\",1,1,7"), cmeError(16));
+  EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"AI\",1,1234,7"), cmeError(16));
+  EXPECT_EQ(bench_.askNetwork("AT+CPWD=\"OI\",1234,5555"), cmeError(16));
+  EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"AO\",1,0000,7"), cmeError(3));
+  EXPECT_EQ(bench_.askNetwork("AT+CPWD=\"AO\",0000,5555"), cmeError(3));
   EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"AO\",2"), withOk("+CLCK: 0,7"));
   EXPECT_EQ(bench_.modem.console("bar unlock"), "");
   EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"AO\",1,0000,7"), kOk);
@@ -225,17 +223,17 @@ TEST_F(LockCommands, ThirdWrongNetworkPasswordLocksIt) {
 
 TEST_F(LockCommands, RightNetworkPasswordGivesAllTriesBack) {
   for (int round = 0; round < 3; ++round) {
-    EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"AO\",1,1111"), code(16));
-    EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"AO\",1,2222"), code(16));
+    EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"AO\",1,1111"), cmeError(16));
+    EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"AO\",1,2222"), cmeError(16));
     EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"AO\",1,0000"), kOk);
   }
 }
 
 TEST_F(LockCommands, NetworkPasswordIsOneForAllBarringsAndHasFourDigits) {
-  EXPECT_EQ(bench_.askNetwork("AT+CPWD=\"AO\",0000,123"), code(16));
-  EXPECT_EQ(bench_.askNetwork("AT+CPWD=\"AO\",0000,12a4"), code(16));
+  EXPECT_EQ(bench_.askNetwork("AT+CPWD=\"AO\",0000,123"), cmeError(16));
+  EXPECT_EQ(bench_.askNetwork("AT+CPWD=\"AO\",0000,12a4"), cmeError(16));
   EXPECT_EQ(bench_.askNetwork("AT+CPWD=\"AO\",0000,5555"), kOk);
-  EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"IR\",1,0000"), code(16));
+  EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"IR\",1,0000"), cmeError(16));
   EXPECT_EQ(bench_.askNetwork("AT+CLCK=\"IR\",1,5555"), kOk);
   EXPECT_EQ(bench_.ask("AT+CPWD=?"),
             withOk("+CPWD: (\"PS\",8),(\"SC\",8),(\"PN\",8),(\"AO\",4),(\"OI\",4),(\"OX\",4),"

@@ -27,7 +27,7 @@ class MessageNotices : public testing::Test {
   Bench bench_{{.messages = {}}};
 };
 
-TEST_F(MessageNotices, TellOfAMessageOnTheCard) {
+TEST_F(MessageNotices, ReportAMessageOnTheCard) {
   EXPECT_EQ(after("message +33639981201 Hello you"), "\r\n+CMTI: \"SM\",1\r\n");
   EXPECT_EQ(bench_.ask("AT+CMGR=1"), withOk(std::string("+CMGR: \"REC UNREAD\",\"+33639981201\",,"
                                                         "\"") +
@@ -73,7 +73,7 @@ TEST_F(MessageNotices, OfReportsComeFiveSecondsAfterTheOk) {
   EXPECT_TRUE(bench_.listen(milliseconds(200)).starts_with("\r\n+CDS: 2,0,"));
 }
 
-TEST_F(MessageNotices, OfReportsTellOfTheReportsOwnMemory) {
+TEST_F(MessageNotices, OfReportsNameTheReportsOwnMemory) {
   bench_.ask("AT+CSMP=33;+CNMI=0,1,0,2");
   EXPECT_EQ(reportOn("0123"), "\r\n+CDSI: \"SR\",1\r\n");
   bench_.ask("AT+CPMS=\"SR\"");

@@ -9,25 +9,23 @@
 namespace gsm::simulator {
 namespace {
 
-std::string code(int number) { return "\r\n+CMS ERROR: " + std::to_string(number) + "\r\n"; }
-
-constexpr const char* kPrompt = "\r\n> ";
+constexpr const char* kTextPrompt = "\r\n> ";
 
 class MessageSendCommands : public testing::Test {
  protected:
   MessageSendCommands() { bench_.ask("AT+CMGF=1;+CMEE=1"); }
 
-  // Writes the command, waits for the prompt, and returns what comes behind the text's echo.
+  // Writes the command, waits for the prompt, and returns what comes after the text's echo.
   std::string send(const std::string& command, const std::string& text,
                    std::chrono::nanoseconds time = seconds(4)) {
-    EXPECT_EQ(bench_.ask(command), kPrompt) << command;
+    EXPECT_EQ(bench_.ask(command), kTextPrompt) << command;
     return bench_.write(text + "\x1A", time);
   }
 
   Bench bench_{{.messages = {}}};
 };
 
-TEST_F(MessageSendCommands, SendAsksForTheTextAndTellsItsReferenceByteForByte) {
+TEST_F(MessageSendCommands, SendAsksForTheTextAndReportsItsReferenceByteForByte) {
   EXPECT_EQ(bench_.write("AT+CMGS=+33639981201\r"), "AT+CMGS=+33639981201\r\r\n> ");
   EXPECT_EQ(bench_.write("Hello you\x1A"), "Hello you");
   EXPECT_EQ(bench_.listen(seconds(3)), "\r\n+CMGS: 0\r\n\r\nOK\r\n");
@@ -40,7 +38,7 @@ TEST_F(MessageSendCommands, NetworkTakesThreeSeconds) {
   EXPECT_EQ(bench_.listen(milliseconds(100)), withOk("+CMGS: 0"));
 }
 
-TEST_F(MessageSendCommands, NumberMayStandInQuotesWithItsTypeBehindIt) {
+TEST_F(MessageSendCommands, NumberMayStandInQuotesWithItsTypeAfterIt) {
   for (const char* command : {"AT+CMGS=\"0123\"", "AT+CMGS=\"+3363\",145", "AT+CMGS=0123,129",
                               "AT+CMGS=12 34", "AT+CMGS= 0123"}) {
     EXPECT_TRUE(send(command, "x").ends_with(kOk)) << command;
@@ -52,14 +50,14 @@ TEST_F(MessageSendCommands, BadNumbersGetNoPrompt) {
       {"AT+CMGS=", kError},
       {"AT+CMGS", kError},
       {"AT+CMGS=1,129,1", kError},
-      {"AT+CMGS=anna", code(305)},
-      {"AT+CMGS=\"1 2\"", code(305)},
-      {"AT+CMGS=1,x", code(305)},
-      {"AT+CMGS=1,7", code(305)},
-      {"AT+CMGS=123456789012345678901", code(305)},
-      {"AT+CMGW=anna", code(305)},
-      {"AT+CMGW=1,129,\"REC READ\"", code(305)},
-      {"AT+CMGW=1,129,\"SENT\"", code(305)},
+      {"AT+CMGS=anna", cmsError(305)},
+      {"AT+CMGS=\"1 2\"", cmsError(305)},
+      {"AT+CMGS=1,x", cmsError(305)},
+      {"AT+CMGS=1,7", cmsError(305)},
+      {"AT+CMGS=123456789012345678901", cmsError(305)},
+      {"AT+CMGW=anna", cmsError(305)},
+      {"AT+CMGW=1,129,\"REC READ\"", cmsError(305)},
+      {"AT+CMGW=1,129,\"SENT\"", cmsError(305)},
       {"AT+CMGW=1,129,\"STO SENT\",1", kError},
   };
   for (const auto& [command, answer] : kBad) EXPECT_EQ(bench_.ask(command), answer) << command;
@@ -80,7 +78,7 @@ TEST_F(MessageSendCommands, TextMayComeInPiecesAndBeforeThePrompt) {
   EXPECT_EQ(bench_.write("\x1A", seconds(4)), withOk("+CMGS: 0"));
 }
 
-TEST_F(MessageSendCommands, CommandsBehindTheTextWait) {
+TEST_F(MessageSendCommands, CommandsAfterTheTextWait) {
   EXPECT_EQ(bench_.write("AT+CMGS=0123\rx\x1A"
                          "AT+CMGF?\r",
                          seconds(5)),
@@ -95,11 +93,11 @@ TEST_F(MessageSendCommands, EveryLineOfTheTextHasAPrompt) {
 
 TEST_F(MessageSendCommands, TextIsEchoedOnlyWithEcho) {
   bench_.ask("ATE0");
-  EXPECT_EQ(bench_.write("AT+CMGW=0123\r"), kPrompt);
+  EXPECT_EQ(bench_.write("AT+CMGW=0123\r"), kTextPrompt);
   EXPECT_EQ(bench_.write("one\rtwo\x1A"), "\r\n> \r\n+CMGW: 1\r\n\r\nOK\r\n");
 }
 
-TEST_F(MessageSendCommands, LineFeedBehindTheCommandIsNoText) {
+TEST_F(MessageSendCommands, LineFeedAfterTheCommandIsNoText) {
   bench_.write("AT+CMGW=0123\r\nx\x1A");
   EXPECT_EQ(bench_.ask("AT+CMGR=1"), withOk("+CMGR: \"STO UNSENT\",\"0123\",\r\nx"));
 }
@@ -112,7 +110,7 @@ TEST_F(MessageSendCommands, BackspaceTakesTheLastByteBack) {
 
 TEST_F(MessageSendCommands, EscapeGivesTheTextUpWithOk) {
   for (const char* command : {"AT+CMGS=0123", "AT+CMGW=0123"}) {
-    EXPECT_EQ(bench_.ask(command), kPrompt);
+    EXPECT_EQ(bench_.ask(command), kTextPrompt);
     EXPECT_EQ(bench_.write("Hello\x1B", seconds(4)), std::string("Hello") + kOk) << command;
   }
   EXPECT_EQ(bench_.ask("AT+CMGL=\"ALL\""), kOk);
@@ -144,9 +142,9 @@ TEST_F(MessageSendCommands, CommandsInATextAreText) {
 
 TEST_F(MessageSendCommands, TextOf160FitsAndALongerOneDoesnt) {
   EXPECT_TRUE(send("AT+CMGS=0123", std::string(160, 'x')).ends_with(kOk));
-  EXPECT_TRUE(send("AT+CMGS=0123", std::string(161, 'x')).ends_with(code(305)));
-  EXPECT_TRUE(send("AT+CMGW=0123", std::string(161, 'x')).ends_with(code(305)));
-  EXPECT_TRUE(send("AT+CMGW=0123", std::string(10'000, 'x'), seconds(20)).ends_with(code(305)));
+  EXPECT_TRUE(send("AT+CMGS=0123", std::string(161, 'x')).ends_with(cmsError(305)));
+  EXPECT_TRUE(send("AT+CMGW=0123", std::string(161, 'x')).ends_with(cmsError(305)));
+  EXPECT_TRUE(send("AT+CMGW=0123", std::string(10'000, 'x'), seconds(20)).ends_with(cmsError(305)));
 }
 
 TEST_F(MessageSendCommands, EmptyTextIsAMessage) {
@@ -166,7 +164,7 @@ TEST_F(MessageSendCommands, LastDigitDecidesAndFailuresCountToo) {
   for (const auto& [number, refusal, time] : kRefusals) {
     bench_.ask(std::string("AT+CMGS=") + number);
     EXPECT_EQ(bench_.write("x\x1A", seconds(time - 2)), "x");
-    EXPECT_EQ(bench_.listen(seconds(2)), code(refusal)) << number;
+    EXPECT_EQ(bench_.listen(seconds(2)), cmsError(refusal)) << number;
   }
   EXPECT_EQ(send("AT+CMGS=0123", ""), withOk("+CMGS: 3"));
 }
@@ -178,15 +176,15 @@ TEST_F(MessageSendCommands, ReferencesStartAnewAfter255) {
 
 TEST_F(MessageSendCommands, NeedsServiceAndAServiceCentre) {
   bench_.modem.console("register 0");
-  EXPECT_EQ(send("AT+CMGS=1", ""), code(331));
+  EXPECT_EQ(send("AT+CMGS=1", ""), cmsError(331));
   bench_.modem.console("register 1");
   bench_.ask("AT+CMGS=1");
   bench_.write("\x1A", seconds(1));
   bench_.modem.console("register 0");
-  EXPECT_EQ(bench_.listen(seconds(3)), code(331)) << "lost on the way";
+  EXPECT_EQ(bench_.listen(seconds(3)), cmsError(331)) << "lost on the way";
   bench_.modem.console("register 1");
   EXPECT_EQ(bench_.ask("AT+CSCA=\"\""), kOk);
-  EXPECT_EQ(send("AT+CMGS=1", ""), code(330));
+  EXPECT_EQ(send("AT+CMGS=1", ""), cmsError(330));
   EXPECT_EQ(send("AT+CMGW=1", ""), withOk("+CMGW: 1"));
 }
 
@@ -194,7 +192,7 @@ TEST_F(MessageSendCommands, BarredMessageIsRefused) {
   bench_.modem.console("bar AO 1");
   EXPECT_EQ(send("AT+CMGS=1", ""), withOk("+CMGS: 0")) << "only calls are";
   bench_.modem.console("bar AO 8");
-  EXPECT_EQ(send("AT+CMGS=1", ""), code(10));
+  EXPECT_EQ(send("AT+CMGS=1", ""), cmsError(10));
 }
 
 TEST_F(MessageSendCommands, WriteStoresInTheFirstHoleAsUnsentOrSent) {
@@ -215,18 +213,18 @@ TEST_F(MessageSendCommands, WriteStoresInTheFirstHoleAsUnsentOrSent) {
 TEST_F(MessageSendCommands, FullCardTakesNothing) {
   for (int count = 1; count <= 20; ++count) send("AT+CMGW=1", "x");
   EXPECT_EQ(bench_.ask("AT+CPMS?"), withOk("+CPMS: \"SM\",20,20,\"SM\",20,20"));
-  EXPECT_EQ(send("AT+CMGW=1", "x"), "x" + code(322));
+  EXPECT_EQ(send("AT+CMGW=1", "x"), "x" + cmsError(322));
 }
 
 TEST_F(MessageSendCommands, MessageThatCantBeKeptIsAnError) {
   bench_.messagesFit = false;
-  EXPECT_EQ(send("AT+CMGW=1", "x"), "x" + code(320));
+  EXPECT_EQ(send("AT+CMGW=1", "x"), "x" + cmsError(320));
   bench_.messagesFit = true;
   EXPECT_EQ(send("AT+CMGW=1", "x"), "x" + withOk("+CMGW: 1"));
 }
 
 TEST_F(MessageSendCommands, PromptAnswersOfOneLineFollowOneAnother) {
-  EXPECT_EQ(bench_.ask("AT+CMGW=1;+CMGW=2;+CMGF?"), kPrompt);
+  EXPECT_EQ(bench_.ask("AT+CMGW=1;+CMGW=2;+CMGF?"), kTextPrompt);
   EXPECT_EQ(bench_.write("a\x1A"), "a\r\n> ");
   EXPECT_EQ(bench_.write("b\x1A"), "b\r\n+CMGW: 1\r\n\r\n+CMGW: 2\r\n\r\n+CMGF: 1\r\n\r\nOK\r\n");
 }

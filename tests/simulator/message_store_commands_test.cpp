@@ -6,8 +6,6 @@
 namespace gsm::simulator {
 namespace {
 
-std::string code(int number) { return "\r\n+CMS ERROR: " + std::to_string(number) + "\r\n"; }
-
 class MessageStoreCommands : public testing::Test {
  protected:
   MessageStoreCommands() { bench_.ask("AT+CMGF=1;+CMEE=1"); }
@@ -25,14 +23,14 @@ constexpr const char* kUnread =
 constexpr const char* kRead =
     "+CMGR: \"REC READ\",\"0146290800\",,\"98/10/01,18:22:11+00\"\r\nABCdefGHI";
 
-TEST_F(MessageStoreCommands, ReadTellsAReceivedMessageByteForByteAndMarksIt) {
+TEST_F(MessageStoreCommands, ReadReportsAReceivedMessageByteForByteAndMarksIt) {
   EXPECT_EQ(bench_.write("AT+CMGR= 2\r"), std::string("AT+CMGR= 2\r") + withOk(kUnread));
   EXPECT_EQ(bench_.ask("AT+CMGR=2"), withOk(kRead));
   ASSERT_EQ(bench_.messages.size(), 1u);
   EXPECT_NE(bench_.messages[0].find("2\tREC READ\t0146290800\t"), std::string::npos);
 }
 
-TEST_F(MessageStoreCommands, ReadTellsAStoredMessageWithoutATime) {
+TEST_F(MessageStoreCommands, ReadReportsAStoredMessageWithoutATime) {
   EXPECT_EQ(bench_.ask("AT+CMGR= 4"), withOk("+CMGR: \"STO UNSENT\",\"+33146290800\",\r\nDraft"));
   EXPECT_EQ(bench_.ask("AT+CMGR= 5"), withOk("+CMGR: \"STO SENT\",\"0123\",\r\nGone"));
   EXPECT_TRUE(bench_.messages.empty());
@@ -44,13 +42,22 @@ TEST_F(MessageStoreCommands, HoleHasNothingToTell) {
 }
 
 TEST_F(MessageStoreCommands, BadReadsAreErrors) {
-  const std::pair<const char*, std::string> kBad[] = {
-      {"AT+CMGR= ", kError},           {"AT+CMGR=", kError},       {"AT+CMGR=x", kError},
-      {"AT+CMGR=1,2", kError},         {"AT+CMGR", kError},        {"AT+CMGR=0", code(321)},
-      {"AT+CMGR=21", code(321)},       {"AT+CMGD=", kError},       {"AT+CMGD=x", kError},
-      {"AT+CMGD=1,x", kError},         {"AT+CMGD=1,1,1", kError},  {"AT+CMGD=0", code(321)},
-      {"AT+CMGD=21", code(321)},       {"AT+CMGD=1,5", code(321)}, {"AT+CMGL=\"NEW\"", code(305)},
-      {"AT+CMGL=\"ALL\",1", code(305)}};
+  const std::pair<const char*, std::string> kBad[] = {{"AT+CMGR= ", kError},
+                                                      {"AT+CMGR=", kError},
+                                                      {"AT+CMGR=x", kError},
+                                                      {"AT+CMGR=1,2", kError},
+                                                      {"AT+CMGR", kError},
+                                                      {"AT+CMGR=0", cmsError(321)},
+                                                      {"AT+CMGR=21", cmsError(321)},
+                                                      {"AT+CMGD=", kError},
+                                                      {"AT+CMGD=x", kError},
+                                                      {"AT+CMGD=1,x", kError},
+                                                      {"AT+CMGD=1,1,1", kError},
+                                                      {"AT+CMGD=0", cmsError(321)},
+                                                      {"AT+CMGD=21", cmsError(321)},
+                                                      {"AT+CMGD=1,5", cmsError(321)},
+                                                      {"AT+CMGL=\"NEW\"", cmsError(305)},
+                                                      {"AT+CMGL=\"ALL\",1", cmsError(305)}};
   for (const auto& [command, answer] : kBad) EXPECT_EQ(bench_.ask(command), answer) << command;
   EXPECT_EQ(bench_.ask("AT+CMGR=?;+CMGD=?"), withOk("+CMGD: (1-20),(0-4)"));
   EXPECT_TRUE(bench_.messages.empty());
@@ -76,7 +83,7 @@ TEST_F(MessageStoreCommands, NeedTheCard) {
     bench.listen();
     for (const char* command : {"AT+CMGR=1", "AT+CMGD=1", "AT+CMGL", "AT+CPMS?", "AT+CPMS=\"SM\"",
                                 "AT+CSCA?", "AT+CSCA=\"1\"", "AT+CMGS=1", "AT+CMGW=1"}) {
-      EXPECT_EQ(bench.ask(command), code(number)) << sim << " " << command;
+      EXPECT_EQ(bench.ask(command), cmsError(number)) << sim << " " << command;
     }
   }
 }
@@ -115,14 +122,14 @@ INSTANTIATE_TEST_SUITE_P(All, MessageDeletions,
 
 TEST_F(MessageStoreCommands, ChangeThatCantBeKeptDoesntHappen) {
   bench_.messagesFit = false;
-  EXPECT_EQ(bench_.ask("AT+CMGD=1"), code(320));
+  EXPECT_EQ(bench_.ask("AT+CMGD=1"), cmsError(320));
   EXPECT_EQ(bench_.ask("AT+CMGR=2"), withOk(kUnread));
   EXPECT_EQ(bench_.ask("AT+CMGR=2"), withOk(kUnread)) << "it couldn't be marked";
-  EXPECT_EQ(bench_.ask("AT+CMGD=1,4"), code(320));
+  EXPECT_EQ(bench_.ask("AT+CMGD=1,4"), cmsError(320));
   EXPECT_EQ(bench_.ask("AT+CPMS?"), withOk("+CPMS: \"SM\",4,20,\"SM\",4,20"));
 }
 
-TEST_F(MessageStoreCommands, ListTellsAllOrThoseOfAStatus) {
+TEST_F(MessageStoreCommands, ListReportsAllOrThoseOfAStatus) {
   EXPECT_EQ(bench_.ask("AT+CMGL=\"ALL\"", seconds(2)),
             withOk("+CMGL: 1,\"REC READ\",\"+33639981201\",,\"26/01/12,09:41:07+04\"\r\nDinner?\r\n"
                    "+CMGL: 2,\"REC UNREAD\",\"0146290800\",,\"98/10/01,18:22:11+00\"\r\nABCdefGHI\r"
@@ -134,7 +141,7 @@ TEST_F(MessageStoreCommands, ListTellsAllOrThoseOfAStatus) {
                                             "\"STO SENT\",\"ALL\")"));
 }
 
-TEST_F(MessageStoreCommands, ListWithoutAStatusTellsWhatIsNewOnce) {
+TEST_F(MessageStoreCommands, ListWithoutAStatusSaysWhatIsNewOnce) {
   EXPECT_EQ(bench_.ask("AT+CMGL"), withOk("+CMGL: 2,\"REC UNREAD\",\"0146290800\",,"
                                           "\"98/10/01,18:22:11+00\"\r\nABCdefGHI"));
   EXPECT_EQ(bench_.ask("AT+CMGL"), kOk);
@@ -147,9 +154,9 @@ TEST_F(MessageStoreCommands, MemoriesAreThreeToReadAndOneToWriteTo) {
   EXPECT_EQ(bench_.ask("AT+CPMS=\"SM\",\"SM\",\"SR\""), kError);
   EXPECT_EQ(bench_.ask("AT+CPMS=\"BM\""), withOk("+CPMS: 0,5,4,20"));
   EXPECT_EQ(bench_.ask("AT+CPMS?"), withOk("+CPMS: \"BM\",0,5,\"SM\",4,20"));
-  EXPECT_EQ(bench_.ask("AT+CMGR=6"), code(321));
-  EXPECT_EQ(bench_.ask("AT+CPMS=\"ME\""), code(303));
-  EXPECT_EQ(bench_.ask("AT+CPMS=\"SM\",\"BM\""), code(303));
+  EXPECT_EQ(bench_.ask("AT+CMGR=6"), cmsError(321));
+  EXPECT_EQ(bench_.ask("AT+CPMS=\"ME\""), cmsError(303));
+  EXPECT_EQ(bench_.ask("AT+CPMS=\"SM\",\"BM\""), cmsError(303));
   EXPECT_EQ(bench_.ask("AT+CPMS="), kError);
   EXPECT_EQ(bench_.ask("AT+CPMS?"), withOk("+CPMS: \"BM\",0,5,\"SM\",4,20"));
 }

@@ -55,7 +55,7 @@ struct BadLine {
   const char* complaint;
 };
 
-TEST(MessageText, TellsWhatIsWrongWithALine) {
+TEST(MessageText, SaysWhatIsWrongWithALine) {
   const BadLine kBad[] = {
       {"x\tREC READ\t1\tt\tx", "the location isn't a number from 1 to 20"},
       {"21\tREC READ\t1\tt\tx", "the location isn't a number from 1 to 20"},

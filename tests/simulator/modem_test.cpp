@@ -61,7 +61,7 @@ TEST(Modem, EchoesEchoOffOneLastTime) {
   EXPECT_EQ(bench.write("AT\r"), "AT\r\r\nOK\r\n");
 }
 
-TEST(Modem, DoesntMindALineFeedBehindTheLineEnd) {
+TEST(Modem, DoesntMindALineFeedAfterTheLineEnd) {
   Bench bench;
   EXPECT_EQ(bench.write("AT\r\n"), "AT\r\r\nOK\r\n");
   EXPECT_EQ(bench.write("AT\r\n"), "AT\r\r\nOK\r\n");
@@ -78,7 +78,7 @@ TEST(Modem, LeavesALineWithoutAtUnanswered) {
   EXPECT_EQ(bench.write("HELLO\r\r"), "HELLO\r\r");
 }
 
-TEST(Modem, FindsTheCommandBehindNoise) {
+TEST(Modem, FindsTheCommandAfterNoise) {
   Bench bench;
   EXPECT_EQ(bench.write("\xFF\x01?AT\r"), "\xFF\x01?AT\r\r\nOK\r\n");
 }

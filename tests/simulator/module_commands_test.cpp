@@ -17,7 +17,7 @@ TEST(ModuleCommands, VoiceMailIsTheOneFeatureOfTheCard) {
   EXPECT_EQ(bench.ask("AT+CPHS=?"), kOk);
 }
 
-TEST(ModuleCommands, VoiceMailIsToldWhenAskedFor) {
+TEST(ModuleCommands, VoiceMailIsReportedWhenAskedFor) {
   Bench bench;
   EXPECT_EQ(bench.ask("AT+CPHS=2,1"), withOk("+WVMI: 1,0"));
   EXPECT_EQ(bench.modem.console("voicemail on"), "");

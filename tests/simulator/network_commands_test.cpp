@@ -5,13 +5,13 @@
 namespace gsm::simulator {
 namespace {
 
-TEST(NetworkCommands, SignalHasNoBlankBehindItsComma) {
+TEST(NetworkCommands, SignalHasNoBlankAfterItsComma) {
   Bench bench;
   EXPECT_EQ(bench.ask("AT+CSQ"), withOk("+CSQ: 17,0"));
   EXPECT_EQ(bench.ask("AT+CSQ=?"), withOk("+CSQ: (0-31,99),(0-7,99)"));
 }
 
-TEST(NetworkCommands, SignalIsToldWithoutACard) {
+TEST(NetworkCommands, SignalIsReportedWithoutACard) {
   Bench bench({.sim = SimStatus::kAbsent});
   EXPECT_EQ(bench.ask("AT+CSQ"), withOk("+CSQ: 17,0"));
   EXPECT_EQ(bench.ask("AT+CREG?"), withOk("+CREG: 0,0"));
@@ -22,7 +22,7 @@ TEST(NetworkCommands, ReadyModemIsRegisteredAtOnce) {
   EXPECT_EQ(bench.ask("AT+CREG?"), withOk("+CREG: 0,1"));
 }
 
-TEST(NetworkCommands, RegistrationModeTwoTellsThePlace) {
+TEST(NetworkCommands, RegistrationModeTwoReportsThePlace) {
   Bench bench;
   EXPECT_EQ(bench.ask("AT+CREG=2"), kOk);
   EXPECT_EQ(bench.ask("AT+CREG?"), withOk("+CREG: 2,1,\"00C3\",\"7066\""));

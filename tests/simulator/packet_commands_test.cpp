@@ -10,7 +10,7 @@ TEST(PacketCommands, NoContextIsDefinedFirst) {
   EXPECT_EQ(bench.ask("AT+CGDCONT?"), kOk);
 }
 
-TEST(PacketCommands, ContextsAreToldALineEachInTheirOrder) {
+TEST(PacketCommands, ContextsAreReportedALineEachInTheirOrder) {
   Bench bench;
   EXPECT_EQ(bench.ask("AT+CGDCONT=3,\"PPP\",\"three\""), kOk);
   EXPECT_EQ(bench.ask("AT+CGDCONT=1,\"IP\",\"internet\""), kOk);

@@ -8,7 +8,7 @@ namespace {
 
 std::string code(int number) { return "\r\n+CMS ERROR: " + std::to_string(number) + "\r\n"; }
 
-constexpr const char* kPrompt = "\r\n> ";
+constexpr const char* kPduPrompt = "\r\n> ";
 
 class PduMode : public testing::Test {
  protected:
@@ -17,7 +17,7 @@ class PduMode : public testing::Test {
   // Writes the command, waits for the prompt, and returns what comes behind the text's echo.
   std::string send(const std::string& command, const std::string& digits,
                    std::chrono::nanoseconds time = seconds(4)) {
-    EXPECT_EQ(bench_.ask(command), kPrompt) << command;
+    EXPECT_EQ(bench_.ask(command), kPduPrompt) << command;
     const std::string reply = bench_.write(digits + "\x1A", time);
     EXPECT_TRUE(reply.starts_with(digits)) << reply;
     return reply.substr(digits.size());
@@ -125,7 +125,7 @@ TEST_F(PduMode, BadMessagesAreRefused) {
 }
 
 TEST_F(PduMode, EscapeGivesTheMessageUp) {
-  EXPECT_EQ(bench_.ask("AT+CMGS=18"), kPrompt);
+  EXPECT_EQ(bench_.ask("AT+CMGS=18"), kPduPrompt);
   EXPECT_EQ(bench_.write("0011\x1B"), std::string("0011") + kOk);
 }
 

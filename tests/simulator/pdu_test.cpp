@@ -8,10 +8,10 @@
 namespace gsm::simulator {
 namespace {
 
-constexpr const char* kTime = "99/03/29,15:16:59+08";
+constexpr const char* kPduTime = "99/03/29,15:16:59+08";
 
 TEST(Pdu, DeliveryHasTheSenderTheTimeAndTheText) {
-  EXPECT_EQ(deliveryPdu("+27381000015", "+27838890001", kTime, "hellohello"),
+  EXPECT_EQ(deliveryPdu("+27381000015", "+27838890001", kPduTime, "hellohello"),
             (Pdu{"07917283010010F5"
                  "04"
                  "0B917238880900F1"
@@ -187,6 +187,10 @@ TEST(PduReading, TakesEveryFormOfASubmission) {
     EXPECT_EQ(message->wantsReport, wantsReport) << digits;
     EXPECT_FALSE(message->namesCentre) << digits;
   }
+  EXPECT_EQ(read("0001001481103254769810325476980000"
+                 "0149")
+                ->number,
+            "01234567890123456789");
   const auto message = read("0001000081000000");
   ASSERT_TRUE(message);
   EXPECT_EQ(message->number, "");
@@ -232,7 +236,7 @@ TEST(PduReading, RefusesWhatIsNoSubmissionOrNotPlainText) {
       "0149",  // a digit that no keypad has
       "0001000281F00000"
       "0149",  // a digit missing
-      "00010015811032547698103254769810F10000"
+      "000100158110325476981032547698F10000"
       "0149",  // 21 digits
       "0001000281100000"
       "0249",  // fewer octets than codes

@@ -6,8 +6,6 @@
 namespace gsm::simulator {
 namespace {
 
-constexpr const char* kNoCarrier = "\r\nNO CARRIER\r\n";
-
 class PendingDial : public testing::Test {
  protected:
   PendingDial() { EXPECT_EQ(bench_.write("ATD0146290800;\r"), "ATD0146290800;\r"); }
@@ -53,7 +51,7 @@ TEST_F(PendingDial, EndsWithNoCarrierAtAHangUpWhichIsThenDone) {
   EXPECT_EQ(bench_.ask("AT+CLCC"), kOk);
 }
 
-TEST_F(PendingDial, EndsAtAHangUpThatComesByteByByteAndBehindOthers) {
+TEST_F(PendingDial, EndsAtAHangUpThatComesByteByByteAndAfterOthers) {
   for (const char c : std::string("AT+CMGF?\rat h\r")) {
     bench_.modem.hostWrites({&c, 1}, Bench::kSpeed);
   }

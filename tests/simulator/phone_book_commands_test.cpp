@@ -5,9 +5,7 @@
 namespace gsm::simulator {
 namespace {
 
-std::string code(int number) { return "\r\n+CME ERROR: " + std::to_string(number) + "\r\n"; }
-
-// A modem with three entries and a hole, which tells its error codes.
+// A modem with three entries and a hole, which reports its error codes.
 class PhoneBookCommands : public testing::Test {
  protected:
   PhoneBookCommands() { bench_.ask("AT+CMEE=1"); }
@@ -17,7 +15,7 @@ class PhoneBookCommands : public testing::Test {
                               {15, {"0146290808", "Zazi"}}}}};
 };
 
-TEST_F(PhoneBookCommands, CountTellsUsedAndTotal) {
+TEST_F(PhoneBookCommands, CountReportsUsedAndTotal) {
   EXPECT_EQ(Bench().write("AT+CPBS?\r"), "AT+CPBS?\r\r\n+CPBS: \"SM\",8,250\r\n\r\nOK\r\n");
   EXPECT_EQ(bench_.ask("AT+CPBS?"), withOk("+CPBS: \"SM\",3,250"));
 }
@@ -26,11 +24,11 @@ TEST_F(PhoneBookCommands, OnlyTheCardsOwnMemoryExists) {
   EXPECT_EQ(bench_.ask("AT+CPBS=?"), withOk("+CPBS: (\"SM\")"));
   EXPECT_EQ(bench_.ask("AT+CPBS=\"SM\""), kOk);
   EXPECT_EQ(bench_.ask("AT+CPBS=SM"), kOk);
-  EXPECT_EQ(bench_.ask("AT+CPBS=\"FD\""), code(4));
+  EXPECT_EQ(bench_.ask("AT+CPBS=\"FD\""), cmeError(4));
   EXPECT_EQ(bench_.ask("AT+CPBS="), kError);
 }
 
-TEST_F(PhoneBookCommands, ReadTellsOneEntryByteForByte) {
+TEST_F(PhoneBookCommands, ReadReportsOneEntryByteForByte) {
   EXPECT_EQ(bench_.write("AT+CPBR=12\r"),
             "AT+CPBR=12\r\r\n+CPBR: 12,\"112\",129,\"Emergency\"\r\n\r\nOK\r\n");
 }
@@ -45,8 +43,8 @@ TEST_F(PhoneBookCommands, ReadOfARangePassesOverHolesWithoutEmptyLines) {
 }
 
 TEST_F(PhoneBookCommands, EmptyLocationIsNotFound) {
-  EXPECT_EQ(bench_.ask("AT+CPBR=14"), code(22));
-  EXPECT_EQ(bench_.ask("AT+CPBR=16,250"), code(22));
+  EXPECT_EQ(bench_.ask("AT+CPBR=14"), cmeError(22));
+  EXPECT_EQ(bench_.ask("AT+CPBR=16,250"), cmeError(22));
   bench_.ask("AT+CMEE=0");
   EXPECT_EQ(bench_.ask("AT+CPBR=14"), kError);
 }
@@ -54,7 +52,7 @@ TEST_F(PhoneBookCommands, EmptyLocationIsNotFound) {
 TEST_F(PhoneBookCommands, LocationOutOfRangeIsAnInvalidIndex) {
   for (const char* bad : {"AT+CPBR=0", "AT+CPBR=251", "AT+CPBR=-1", "AT+CPBR=0,5", "AT+CPBR=5,251",
                           "AT+CPBR=15,12", "AT+CPBW=0", "AT+CPBW=251", "AT+CPBW=251,\"1\""}) {
-    EXPECT_EQ(bench_.ask(bad), code(21)) << bad;
+    EXPECT_EQ(bench_.ask(bad), cmeError(21)) << bad;
   }
   bench_.ask("AT+CMEE=0");
   EXPECT_EQ(bench_.ask("AT+CPBR=251"), kError);
@@ -111,7 +109,7 @@ TEST_F(PhoneBookCommands, WriteWithoutALocationTakesTheFirstFreeOne) {
 
 TEST_F(PhoneBookCommands, EraseEmptiesALocationAndDoesntMindAnEmptyOne) {
   EXPECT_EQ(bench_.ask("AT+CPBW=13"), kOk);
-  EXPECT_EQ(bench_.ask("AT+CPBR=13"), code(22));
+  EXPECT_EQ(bench_.ask("AT+CPBR=13"), cmeError(22));
   EXPECT_EQ(bench_.ask("AT+CPBS?"), withOk("+CPBS: \"SM\",2,250"));
   EXPECT_EQ(bench_.ask("AT+CPBW=13"), kOk);
 }
@@ -127,7 +125,7 @@ TEST_F(PhoneBookCommands, FlawsHaveTheirCodesAndChangeNothing) {
       {"AT+CPBW=12,\"\",129,\"\"", 3},
   };
   for (const auto& [command, number] : kFlaws) {
-    EXPECT_EQ(bench_.ask(command), code(number)) << command;
+    EXPECT_EQ(bench_.ask(command), cmeError(number)) << command;
   }
   EXPECT_EQ(bench_.ask("AT+CPBR=12"), withOk("+CPBR: 12,\"112\",129,\"Emergency\""));
   EXPECT_TRUE(bench_.phoneBooks.empty());
@@ -140,7 +138,7 @@ TEST_F(PhoneBookCommands, FullBookTakesOnlyWhatReplaces) {
   bench.hostSpeed = 115200;
   bench.ask("AT+CMEE=1");
   EXPECT_EQ(bench.ask("AT+CPBS?"), withOk("+CPBS: \"SM\",250,250"));
-  EXPECT_EQ(bench.ask("AT+CPBW=,\"2\",129,\"y\""), code(20));
+  EXPECT_EQ(bench.ask("AT+CPBW=,\"2\",129,\"y\""), cmeError(20));
   EXPECT_EQ(bench.ask("AT+CPBW=250,\"2\",129,\"y\""), kOk);
   bench.modem.hostWrites("AT+CPBR=1,250\r", 115200);
   const std::string all = bench.listen(seconds(30));
@@ -158,8 +156,8 @@ TEST_F(PhoneBookCommands, EveryChangeIsKept) {
 
 TEST_F(PhoneBookCommands, ChangeThatCantBeKeptIsAnError) {
   bench_.phoneBookFits = false;
-  EXPECT_EQ(bench_.ask("AT+CPBW=12"), code(23));
-  EXPECT_EQ(bench_.ask("AT+CPBW=1,\"1\""), code(23));
+  EXPECT_EQ(bench_.ask("AT+CPBW=12"), cmeError(23));
+  EXPECT_EQ(bench_.ask("AT+CPBW=1,\"1\""), cmeError(23));
   EXPECT_EQ(bench_.ask("AT+CPBS?"), withOk("+CPBS: \"SM\",3,250"));
 }
 
@@ -175,7 +173,7 @@ TEST_F(PhoneBookCommands, NeedAReadyCard) {
     bench.ask("AT+CMEE=1");
     for (const char* command : {"AT+CPBS?", "AT+CPBS=\"SM\"", "AT+CPBR=1", "AT+CPBR=?", "AT+CPBW=1",
                                 "AT+CPBW=,\"1\"", "AT+CPBW=?"}) {
-      EXPECT_EQ(bench.ask(command), code(number)) << command;
+      EXPECT_EQ(bench.ask(command), cmeError(number)) << command;
     }
   }
 }

@@ -81,7 +81,7 @@ TEST(PhoneBookText, BearsForeignLineEndsEmptyLinesAndNamesLeftOut) {
   EXPECT_TRUE(reading.complaints.empty());
 }
 
-TEST(PhoneBookText, PassesOverWhatIsNoEntryAndTellsWhy) {
+TEST(PhoneBookText, PassesOverWhatIsNoEntryAndSaysWhy) {
   const PhoneBookReading reading = readPhoneBook(
       "0\t1\ta\n251\t1\ta\nx\t1\ta\n1 \t1\ta\n1\t\t\n1\t12a\tb\n1\t123456789012345678901\tb\n"
       "1\t1\televen char\n1\t1\ta\"b\n1\t1\ta\tb\n1\t5\tgood\n1\t6\tlate\n",

@@ -26,7 +26,7 @@ TEST_F(Power, OffIsSilentUntilTheConsoleSwitchesItOn) {
   EXPECT_EQ(bench_.ask("AT"), kOk);
 }
 
-TEST_F(Power, OffTellsOfTheNetworksLoss) {
+TEST_F(Power, OffReportsTheNetworksLoss) {
   bench_.ask("AT+WIND=1023;+CREG=1");
   EXPECT_EQ(bench_.ask("AT+CPOF"), std::string(kOk) + "\r\n+WIND: 8\r\n\r\n+CREG: 0\r\n");
 }

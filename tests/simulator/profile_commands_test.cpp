@@ -52,7 +52,7 @@ TEST(ProfileCommands, LineConfigurationIsKeptByStoring) {
             "\r\n0\r\n\r\n5\r\n\r\nOK\r\n");
 }
 
-TEST(ProfileCommands, ReloadedSpeedStartsBehindTheOk) {
+TEST(ProfileCommands, ReloadedSpeedStartsAfterTheOk) {
   Bench bench;
   bench.ask("AT+IPR=19200");
   bench.hostSpeed = 19200;

@@ -35,7 +35,7 @@ TEST(StoredSettings, NoiseIsRefusedAsAWhole) {
 }
 
 TEST(StoredSettings, EveryByteOfATextMayBeAnyOther) {
-  const std::string text = toText({});
+  const std::string text = toText(StoredSettings{});
   for (std::size_t at = 0; at < text.size(); ++at) {
     for (int value = 0; value < 256; ++value) {
       std::string noisy = text;

@@ -6,8 +6,6 @@
 namespace gsm::simulator {
 namespace {
 
-std::string code(int number) { return "\r\n+CME ERROR: " + std::to_string(number) + "\r\n"; }
-
 TEST(Forwardings, AreOffForAllOfTheUsualClassesFirst) {
   Bench bench;
   for (const char* reason : {"0", "1", "2", "3", "4", "5"}) {
@@ -76,7 +74,7 @@ TEST(Forwardings, AreSwitchedOffAndOnWithTheirNumberKept) {
   EXPECT_EQ(bench.askNetwork("AT+CCFC=0,2"), withOk("+CCFC: 1,7,\"0123\",129"));
 }
 
-TEST(Forwardings, ReasonsThatStandForSeveralChangeThoseAndTellWhatTheyAgreeOn) {
+TEST(Forwardings, ReasonsThatStandForSeveralChangeThoseAndSayWhatTheyAgreeOn) {
   Bench bench;
   bench.askNetwork("AT+CCFC=5,3,\"0123\",7");
   EXPECT_EQ(bench.askNetwork("AT+CCFC=0,2"), withOk("+CCFC: 0,7"));
@@ -102,13 +100,13 @@ TEST(Forwardings, BadOnesAreRefusedAtOnce) {
       {"AT+CCFC=x,2", kError},
       {"AT+CCFC=0,2,,,1,,,20,1", kError},
       {"AT+CCFC=0,3,\"1\",129,x", kError},
-      {"AT+CCFC=6,2", code(4)},
-      {"AT+CCFC=0,5", code(4)},
-      {"AT+CCFC=0,3,\"0123\",0", code(4)},
-      {"AT+CCFC=0,3,\"0123\",129,256", code(4)},
-      {"AT+CCFC=0,3,\"\",7", code(27)},
-      {"AT+CCFC=0,3,\"12a\",7", code(27)},
-      {"AT+CCFC=0,3,\"123456789012345678901\",7", code(26)},
+      {"AT+CCFC=6,2", cmeError(4)},
+      {"AT+CCFC=0,5", cmeError(4)},
+      {"AT+CCFC=0,3,\"0123\",0", cmeError(4)},
+      {"AT+CCFC=0,3,\"0123\",129,256", cmeError(4)},
+      {"AT+CCFC=0,3,\"\",7", cmeError(27)},
+      {"AT+CCFC=0,3,\"12a\",7", cmeError(27)},
+      {"AT+CCFC=0,3,\"123456789012345678901\",7", cmeError(26)},
   };
   for (const auto& [command, answer] : kBad) EXPECT_EQ(bench.ask(command), answer) << command;
   EXPECT_EQ(bench.askNetwork("AT+CCFC=0,2"), withOk("+CCFC: 0,7"));
@@ -131,11 +129,11 @@ class NetworkCommands : public testing::TestWithParam<NetworkCommand> {};
 TEST_P(NetworkCommands, NeedACardAndService) {
   Bench locked({.sim = SimStatus::kPinWanted});
   locked.ask("AT+CMEE=1");
-  EXPECT_EQ(locked.ask(GetParam().command), code(11));
+  EXPECT_EQ(locked.ask(GetParam().command), cmeError(11));
   Bench lost;
   lost.ask("AT+CMEE=1");
   lost.modem.console("register 2");
-  EXPECT_EQ(lost.ask(GetParam().command), code(30));
+  EXPECT_EQ(lost.ask(GetParam().command), cmeError(30));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, NetworkCommands,
@@ -144,7 +142,7 @@ INSTANTIATE_TEST_SUITE_P(All, NetworkCommands,
                                          NetworkCommand{"AT+CLCK=\"AO\",2"},
                                          NetworkCommand{"AT+CPWD=\"AO\",0000,1111"}));
 
-TEST(Services, CommandsBehindOneThatTakesItsTimeWaitForIt) {
+TEST(Services, CommandsAfterOneThatTakesItsTimeWaitForIt) {
   Bench bench;
   EXPECT_EQ(bench.write("AT+CSQ;+CCFC=0,2;+CCWA=,2;+CMGF?\r"),
             "AT+CSQ;+CCFC=0,2;+CCWA=,2;+CMGF?\r\r\n+CSQ: 17,0\r\n");
@@ -158,7 +156,7 @@ TEST(Services, FailureAtTheNetworkEndsTheLine) {
   EXPECT_EQ(bench.ask("AT+CMGF?"), withOk("+CMGF: 0"));
 }
 
-TEST(Waiting, TellsWhatTheNetworkDoes) {
+TEST(Waiting, SaysWhatTheNetworkDoes) {
   Bench bench;
   EXPECT_EQ(bench.ask("AT+CCWA?"), withOk("+CCWA: 0"));
   EXPECT_EQ(bench.ask("AT+CCWA=?"), withOk("+CCWA: (0,1)"));

@@ -67,7 +67,7 @@ TEST(SimulatorOptions, BadValuesAreNamed) {
 }
 
 TEST(SimulatorOptions, MissingValuesAndUnknownOptionsAreNamed) {
-  EXPECT_EQ(complaint({"--link"}), "--link wants a value behind it");
+  EXPECT_EQ(complaint({"--link"}), "--link wants a value after it");
   EXPECT_EQ(complaint({"--colour"}), "there is no option '--colour'");
   EXPECT_EQ(complaint({"modem"}), "there is no option 'modem'");
 }

@@ -32,7 +32,7 @@ TEST_F(TransmitterTest, NeverLetsOneTransmissionIntoAnother) {
   EXPECT_EQ(received_, "\r\n+CSQ: 17,0\r\n\r\nRING\r\n");
 }
 
-TEST_F(TransmitterTest, TellsWhenTheLastByteHasLeft) {
+TEST_F(TransmitterTest, ReportsWhenTheLastByteHasLeft) {
   std::string atEnd = "not yet";
   transmitter_.send(Source::kReply, "abc", [&] { atEnd = received_; });
   time_.advance(lineTime(2, 9600));
@@ -41,14 +41,14 @@ TEST_F(TransmitterTest, TellsWhenTheLastByteHasLeft) {
   EXPECT_EQ(atEnd, "abc");
 }
 
-TEST_F(TransmitterTest, TellsTheEndOfNothingToo) {
+TEST_F(TransmitterTest, ReportsTheEndOfNothingToo) {
   bool told = false;
   transmitter_.send(Source::kReply, "", [&] { told = true; });
   time_.advance(seconds(0));
   EXPECT_TRUE(told);
 }
 
-TEST_F(TransmitterTest, LosesWhatOverflowsButTellsItsEnd) {
+TEST_F(TransmitterTest, LosesWhatOverflowsButReportsItsEnd) {
   int told = 0;
   for (int i = 0; i < 100; ++i) {
     transmitter_.send(Source::kEcho, std::string(1024, 'x'), [&] { ++told; });

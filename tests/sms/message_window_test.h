@@ -71,7 +71,7 @@ class MessageWindowTest : public PhoneBookTest {
     world().modem.add(
         {.write = command + "\r", .replies = {{{ModemScript::kDefaultDelay, kPrompt}}}});
   }
-  /// The modem echoes the body `text` and says `reply`, `after` seconds behind it.
+  /// The modem echoes the body `text` and says `reply`, `after` seconds later.
   void answerBody(const std::string& text, const std::string& reply, double after = 0.5) {
     world().modem.add({.write = text + kEnd, .replies = {{{fromSeconds(after), reply}}}});
   }

@@ -39,7 +39,7 @@ TEST_F(Names, AreListedInTheBooksOrderAndTheServiceCentreIsAskedFor) {
   expectAtRest();
 }
 
-TEST_F(Names, StandBesideTheServiceCentreThatTheModemTells) {
+TEST_F(Names, StandBesideTheServiceCentreThatTheModemReports) {
   layEntries({{"1", "112", "HELP"}});
   window().Label4.Caption = "before";
   reply("AT+CSCA?", kCentreReply);

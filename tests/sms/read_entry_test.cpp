@@ -293,7 +293,7 @@ TEST_F(ReadEntry, CanBeSentOnToAnotherNumber) {
   EXPECT_EQ(sent(), (Texts{"AT+CMGR= 3\r", "AT+CMGS=999\r", "ABCdefGHI\r\n\r\n\x1A"}));
 }
 
-// A reply of which the line loses or delays everything behind some byte.
+// A reply of which the line loses or delays everything after some byte.
 class CutEntry : public ReadEntry, public ::testing::WithParamInterface<int> {
  protected:
   static std::string whole() { return "AT+CMGR= 3\r" + kRead; }

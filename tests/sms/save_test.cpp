@@ -27,7 +27,7 @@ TEST_F(Save, StoresTheTextWithoutTheHeader) {
   expectAtRest();
 }
 
-TEST_F(Save, TakesFourSecondsWithASilentModemAndTellsOfAnError) {
+TEST_F(Save, TakesFourSecondsWithASilentModemAndReportsAnError) {
   stopSendEvents();
   compose("12345", "Hello");
   const double start = now();
@@ -81,7 +81,7 @@ struct SaveRow {
 
 class SaveResult : public Save, public ::testing::WithParamInterface<SaveRow> {};
 
-TEST_P(SaveResult, IsToldByTheIndex) {
+TEST_P(SaveResult, IsReportedByTheIndex) {
   compose("12345", "Hello");
   answerWithPrompt("AT+CMGW=12345");
   answerBody("Hello", GetParam().reply);

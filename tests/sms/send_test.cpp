@@ -39,7 +39,7 @@ TEST_F(Send, GivesNumberAndMessageToTheModemAndTellsTheTime) {
   expectAtRest();
 }
 
-TEST_F(Send, TakesSevenSecondsWithASilentModemAndTellsOfAnError) {
+TEST_F(Send, TakesSevenSecondsWithASilentModemAndReportsAnError) {
   stopSendEvents();
   compose("12345", "Hello");
   const double start = now();
@@ -81,7 +81,7 @@ TEST_F(Send, KeepsTheTextsSoThatTheyCanBeSentAgain) {
   EXPECT_EQ(header(), " Hi ");
 }
 
-TEST_F(Send, TakesASecondLongerWhenTheLineTellsThatTheNumberHasLeft) {
+TEST_F(Send, TakesASecondLongerWhenTheLineReportsThatTheNumberHasLeft) {
   compose("12345", "Hello");
   const double start = now();
   send();
@@ -218,7 +218,7 @@ struct ResultRow {
 
 class SendResult : public Send, public ::testing::WithParamInterface<ResultRow> {};
 
-TEST_P(SendResult, IsToldByTheReference) {
+TEST_P(SendResult, IsReportedByTheReference) {
   compose("12345", "Hello");
   answerWithPrompt();
   answerBody("Hello", GetParam().reply);
@@ -243,7 +243,7 @@ INSTANTIATE_TEST_SUITE_P(
                       ResultRow{"VeryLong", std::string(5000, 'x') + kSent, true}),
     RowName());
 
-TEST_F(Send, TellsOfAReferenceThatTheMessageItselfHolds) {
+TEST_F(Send, ReportsAReferenceThatTheMessageItselfHolds) {
   compose("12345", "+CMGS:");
   answerWithPrompt();
   answerBody("+CMGS:", kError);

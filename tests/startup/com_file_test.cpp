@@ -7,14 +7,13 @@
 #include "tests/support/panel_fixture.h"
 #include "tests/support/rows.h"
 #include "tests/support/seed.h"
+#include "tests/support/start_up_words.h"
 
 namespace gsm {
 namespace {
 
 using Texts = std::vector<std::string>;
 using namespace std::string_literals;
-
-constexpr const char* kWelcome = "                      Welcome To Ormalin Telecom Application";
 
 // What start-up makes of the bytes of the file with the saved port.
 class ComFile : public PanelTest {
@@ -189,7 +188,7 @@ TEST_F(ComFile, WhoseLastLineHasNoEndIsReadWhole) {
   EXPECT_EQ(portNumber(), "Port 3");
 }
 
-TEST_F(ComFile, WithABadLineBehindASweepEndsTheLoadSilently) {
+TEST_F(ComFile, WithABadLineAfterASweepEndsTheLoadSilently) {
   layComFile("\r\nno-blank\r\n9600,N,8,1 3\r\n");
   start();
   settle();

@@ -18,7 +18,7 @@ struct ImeiRow {
 
 class Imei : public PanelTest, public ::testing::WithParamInterface<ImeiRow> {};
 
-TEST_P(Imei, IsCutOutTenBehindTheEcho) {
+TEST_P(Imei, IsCutOutTenAfterTheEcho) {
   layComFile("9600,N,8,1 3\r\n");
   start();
   world().modem.add({.write = "AT+CGSN\r",

@@ -144,7 +144,7 @@ TEST_F(PortChoice, OfNoneClosesThePortAndLeavesThePanelAlone) {
   expectAtRest();
 }
 
-TEST_F(PortChoice, OfAnEntryThatSaysNotIsToldInABoxAndTheWindowStays) {
+TEST_F(PortChoice, OfAnEntryThatSaysNotIsReportedInABoxAndTheWindowStays) {
   startWithLine("9600,n,8,1", true);
   inPanel([this] { window().cboPort.AddItem(" 9 is not free"); });
   run(0);

@@ -11,7 +11,7 @@ namespace {
 // The port settings window as it comes up.
 class PortSettingsWindow : public PortSettingsTest {};
 
-TEST_F(PortSettingsWindow, TellsWhichDeviceAPortIsAndWhyItCantBeUsed) {
+TEST_F(PortSettingsWindow, SaysWhichDeviceAPortIsAndWhyItCantBeUsed) {
   startWith(
       {{.number = 3, .device = "/dev/ttyS2"},
        {.number = 5, .held = true, .device = "/dev/ttyUSB0", .trouble = "held by 1234 (minicom)"}});
@@ -94,7 +94,7 @@ TEST_F(PortSettingsWindow, SaysThatItScansAndShowsTheHourglassMeanwhile) {
   }
 }
 
-struct ListRow {
+struct ShownPortRow {
   std::string name;
   std::vector<HeadlessPorts::Port> ports;
   int port;   // of the control
@@ -103,9 +103,9 @@ struct ListRow {
   std::string selected;
 };
 class SettingsPortList : public PortSettingsWindow,
-                         public ::testing::WithParamInterface<ListRow> {};
+                         public ::testing::WithParamInterface<ShownPortRow> {};
 
-TEST_P(SettingsPortList, TellsFreeAndHeldPortsAndSelects) {
+TEST_P(SettingsPortList, ReportsFreeAndHeldPortsAndSelects) {
   startWith(GetParam().ports, GetParam().port);
   setLine(GetParam().port, "9600,n,8,1", 0, GetParam().open);
   openWindow();
@@ -116,46 +116,46 @@ TEST_P(SettingsPortList, TellsFreeAndHeldPortsAndSelects) {
 
 INSTANTIATE_TEST_SUITE_P(
     Machines, SettingsPortList,
-    ::testing::Values(ListRow{"WithoutAnyPortSelectsNothing", {}, 3, false, {"<none>"}, ""},
-                      ListRow{"OfTheOpenPort", {{.number = 3}}, 3, true, {"<none>", " 3"}, " 3"},
-                      ListRow{
-                          "OfTheClosedPort", {{.number = 3}}, 3, false, {"<none>", " 3"}, "<none>"},
-                      ListRow{"OfTheLastOfSeveral",
-                              {{.number = 1}, {.number = 12}, {.number = 32}},
-                              32,
-                              true,
-                              {"<none>", " 1", " 12", " 32"},
-                              " 32"},
-                      ListRow{"OfAPortBehindTheList",
-                              {{.number = 1}, {.number = 33}},
-                              33,
-                              true,
-                              {"<none>", " 1"},
-                              "<none>"},
-                      ListRow{"WithAPortThatFailsItself",
-                              {{.number = 2, .fails = "Device I/O error"}, {.number = 3}},
-                              3,
-                              true,
-                              {"<none>", " 3"},
-                              " 3"},
-                      ListRow{"StopsAtAHeldPortInFront",
-                              {{.number = 2, .held = true}, {.number = 3}},
-                              3,
-                              true,
-                              {"<none>", " 2 - Not Available", " 3"},
-                              " 2 - Not Available"},
-                      ListRow{"DoesntReachAHeldPortBehind",
-                              {{.number = 3}, {.number = 12, .held = true}},
-                              3,
-                              true,
-                              {"<none>", " 3", " 12 - Not Available"},
-                              " 3"},
-                      ListRow{"StopsAtAHeldPortWithThePortClosed",
-                              {{.number = 1}, {.number = 2, .held = true}, {.number = 3}},
-                              3,
-                              false,
-                              {"<none>", " 1", " 2 - Not Available", " 3"},
-                              " 2 - Not Available"}),
+    ::testing::Values(
+        ShownPortRow{"WithoutAnyPortSelectsNothing", {}, 3, false, {"<none>"}, ""},
+        ShownPortRow{"OfTheOpenPort", {{.number = 3}}, 3, true, {"<none>", " 3"}, " 3"},
+        ShownPortRow{"OfTheClosedPort", {{.number = 3}}, 3, false, {"<none>", " 3"}, "<none>"},
+        ShownPortRow{"OfTheLastOfSeveral",
+                     {{.number = 1}, {.number = 12}, {.number = 32}},
+                     32,
+                     true,
+                     {"<none>", " 1", " 12", " 32"},
+                     " 32"},
+        ShownPortRow{"OfAPortBehindTheList",
+                     {{.number = 1}, {.number = 33}},
+                     33,
+                     true,
+                     {"<none>", " 1"},
+                     "<none>"},
+        ShownPortRow{"WithAPortThatFailsItself",
+                     {{.number = 2, .fails = "Device I/O error"}, {.number = 3}},
+                     3,
+                     true,
+                     {"<none>", " 3"},
+                     " 3"},
+        ShownPortRow{"StopsAtAHeldPortInFront",
+                     {{.number = 2, .held = true}, {.number = 3}},
+                     3,
+                     true,
+                     {"<none>", " 2 - Not Available", " 3"},
+                     " 2 - Not Available"},
+        ShownPortRow{"DoesntReachAHeldPortBehind",
+                     {{.number = 3}, {.number = 12, .held = true}},
+                     3,
+                     true,
+                     {"<none>", " 3", " 12 - Not Available"},
+                     " 3"},
+        ShownPortRow{"StopsAtAHeldPortWithThePortClosed",
+                     {{.number = 1}, {.number = 2, .held = true}, {.number = 3}},
+                     3,
+                     false,
+                     {"<none>", " 1", " 2 - Not Available", " 3"},
+                     " 2 - Not Available"}),
     RowName());
 
 struct LineRow {

@@ -6,14 +6,12 @@
 #include "tests/support/modem_bytes.h"
 #include "tests/support/panel_fixture.h"
 #include "tests/support/property_watch.h"
+#include "tests/support/start_up_words.h"
 
 namespace gsm {
 namespace {
 
 using Texts = std::vector<std::string>;
-
-constexpr const char* kWelcome = "                      Welcome To Ormalin Telecom Application";
-constexpr const char* kNothingFound = "No Modem Device Found.Set The Comm Ports";
 
 class StartUp : public PanelTest {
  protected:
@@ -28,7 +26,7 @@ class StartUp : public PanelTest {
     return {"Checking For Available Communication Ports",
             "Found  " + std::to_string(ports) + " Ports", "Detecting Modem Present.."};
   }
-  // The log begins with the welcome and `lines`; what a found modem adds comes behind.
+  // The log begins with the welcome and `lines`; what a found modem adds comes after them.
   void expectLogBegins(Texts lines) {
     lines.insert(lines.begin(), kWelcome);
     Texts beginning = log();
@@ -185,7 +183,7 @@ TEST_F(StartUp, ASweepThatFindsNothingSaysSoAndClosesThePort) {
   EXPECT_EQ(boxes(), Texts{});
 }
 
-TEST_F(StartUp, ASweepBehindASilentSavedPortFindsTheModemElsewhere) {
+TEST_F(StartUp, ASweepAfterASilentSavedPortFindsTheModemElsewhere) {
   layComFile("9600,N,8,1 3\r\n");
   start({.ports = {{.number = 3}, {.number = 7}}, .modemPort = 7, .modemSpeed = 115200});
   reply("AT+CGSN", kImeiReply);
@@ -243,7 +241,7 @@ TEST_F(StartUp, EachLineIsTriedInTurnWhileNoModemIsAccepted) {
   expectLogBegins(lines);
   EXPECT_EQ(portNumber(), "Port 4");
   EXPECT_EQ(portSettings(), "14400,N,8,1");
-  // Nothing was read behind the accepted line.
+  // Nothing was read after the accepted line.
   Texts behind = log();
   behind.erase(behind.begin(), behind.begin() + static_cast<int>(1 + lines.size()));
   for (const std::string& line : behind) EXPECT_NE(line, "Detecting Modem Present..");

@@ -3,14 +3,13 @@
 #include "panel/form1.h"
 #include "panel/form7.h"
 #include "tests/support/modem_bytes.h"
+#include "tests/support/start_up_words.h"
 #include "tests/support/sweep_test.h"
 
 namespace gsm {
 namespace {
 
 using Texts = std::vector<std::string>;
-
-constexpr const char* kNothingFound = "No Modem Device Found.Set The Comm Ports";
 
 class SweepFailures : public SweepTest {};
 
@@ -27,7 +26,7 @@ TEST_F(SweepFailures, AHeldFirstPortIsSkippedAndAnsweredForWithABlankBoxAtTheEnd
   EXPECT_EQ(statusLine(), kNothingFound);
 }
 
-TEST_F(SweepFailures, BehindAHeldFirstPortTheModemIsFound) {
+TEST_F(SweepFailures, AfterAHeldFirstPortTheModemIsFound) {
   startSweep({.ports = {{.number = 2, .held = true}, {.number = 3}}});
   reply("AT+CGSN", kImeiReply);
   settle();
@@ -103,7 +102,7 @@ TEST_F(SweepFailures, AnyOtherFailureShowsItsTextAndEndsTheSweep) {
   EXPECT_EQ(portNumber(), "");
 }
 
-TEST_F(SweepFailures, BehindAHeldPortAnyOtherFailureShowsItsTextFirst) {
+TEST_F(SweepFailures, AfterAHeldPortAnyOtherFailureShowsItsTextFirst) {
   startSweep({.ports = {{.number = 1, .held = true},
                         {.number = 2, .fails = "Permission denied"},
                         {.number = 3}}});
@@ -111,7 +110,7 @@ TEST_F(SweepFailures, BehindAHeldPortAnyOtherFailureShowsItsTextFirst) {
   EXPECT_EQ(boxes(), (Texts{"Permission denied", ""}));
 }
 
-TEST_F(SweepFailures, TheNextLineIsTriedBehindAFailedSweep) {
+TEST_F(SweepFailures, TheNextLineIsTriedAfterAFailedSweep) {
   layComFile("\r\n9600,N,8,1 3\r\n");
   start({.ports = {{.number = 2, .fails = "Permission denied"}, {.number = 3}}});
   reply("AT+CGSN", kImeiReply);

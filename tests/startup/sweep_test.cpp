@@ -4,14 +4,13 @@
 #include "panel/form1.h"
 #include "panel/form7.h"
 #include "tests/support/modem_bytes.h"
+#include "tests/support/start_up_words.h"
 #include "tests/support/sweep_test.h"
 
 namespace gsm {
 namespace {
 
 using Texts = std::vector<std::string>;
-
-constexpr const char* kNothingFound = "No Modem Device Found.Set The Comm Ports";
 
 class Sweep : public SweepTest {};
 

@@ -20,6 +20,8 @@ inline constexpr const char* kProfileReply =
     "+CR:0 +CRC:0 +CMEE:0 +CBST:0,0,1\r\n"
     "+SPEAKER:0 +ECHO:0,1 &C:1 &D:1 %C:2\r\n"
     "+IPR:115200 +ICF:3,4 +IFC:2,2\r\n\r\nOK\r\n";
+/// What a test puts into a text that a handler must leave as it is.
+inline constexpr const char* kBefore = "as it was";
 inline constexpr const char* kFailureOfAClosedPort = "Operation valid only when the port is open";
 
 /// A panel whose saved port 3 has a modem with echo, which answers everything that the panel may

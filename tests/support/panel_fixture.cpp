@@ -5,8 +5,8 @@
 namespace gsm {
 
 void PanelTest::start(const Machine& machine) {
-  world_ = std::make_unique<HeadlessPanel>(folder_.path(), machine.now, database_.get(),
-                                           machine.record);
+  world_ =
+      std::make_unique<HeadlessPanel>(folder_.path(), machine.now, database_.get(), machine.record);
   world_->machine.ports.set(machine.ports);
   world_->machine.line.plug(machine.modemPort);
   world_->modem.setSpeed(machine.modemSpeed);

@@ -8,7 +8,7 @@
 
 namespace gsm {
 
-/// Tells of each change of a window's or control's properties, for as long as it lives.
+/// Reports each change of a window's or control's properties, for as long as it lives.
 class PropertyWatch : public View {
  public:
   PropertyWatch(PropertyOwner& owner, std::function<void(PropertyId)> tell)

@@ -150,7 +150,7 @@ void BookModel::write(int location, const std::string& number, const std::string
   }
 }
 
-// Behind the index and its blanks, the text up to the next blank: with a number that fills its
+// After the index and its blanks, the text up to the next blank: with a number that fills its
 // column, the name's first word too.
 void BookModel::pick(std::size_t row) {
   const std::string& text = window_->list[row];

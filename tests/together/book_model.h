@@ -40,7 +40,7 @@ class BookModel {
     std::string dialBox;
   };
 
-  /// A download reads 35 characters behind the location, in which it wants the number, three
+  /// A download reads 35 characters after the location, in which it wants the number, three
   /// characters of type and the name with its closing quote, the name in no more than 14 of them.
   /// An entry that doesn't fit ends it.
   static bool endsDownload(const CardEntry& entry);

@@ -8,7 +8,7 @@
 
 namespace gsm {
 
-/// What the simulated network holds for the subscriber, as the modem's console tells it, and what
+/// What the simulated network holds for the subscriber, as the modem's console reports it, and what
 /// the windows say of it.
 struct NetworkTruth {
   static constexpr int kReasons = 4;  // that stand for themselves

@@ -1,4 +1,4 @@
-// When the prompt of a call is on view: the routing demands two seconds of silence behind the last
+// When the prompt of a call is on view: the routing demands two seconds of silence after the last
 // piece of the caller's line, and not an instant more goes by.
 
 #include <gtest/gtest.h>
@@ -56,7 +56,7 @@ struct RingRow {
 
 class RingInPieces : public RingToPrompt, public ::testing::WithParamInterface<RingRow> {};
 
-TEST_P(RingInPieces, BringsThePromptUpTwoSecondsBehindTheLastOne) {
+TEST_P(RingInPieces, BringsThePromptUpTwoSecondsAfterTheLastOne) {
   const double begin = now();
   for (const Piece& piece : GetParam().pieces) receive(piece.text, piece.at);
   settle();

@@ -62,7 +62,7 @@ void SimulatedWeek::begin(std::uint32_t seed, int entriesOnCard) {
   settle();
   ASSERT_TRUE(form1().Command2.Enabled.peek()) << "the start-up didn't come to its end";
   inPanel([this] {
-    form1().modem.exchange("AT+CCWA=1,1,1");  // the modem tells of callers who wait
+    form1().modem.exchange("AT+CCWA=1,1,1");  // the modem reports callers who wait
     form1().Text1.clear();
   });
   settle();

@@ -37,7 +37,7 @@ class SimulatedWeek : public PhoneBookTest {
   int days() const { return static_cast<int>(now() / kDay); }
   /// Lets some minutes go by, or the night.
   void letTimePass();
-  /// Does something at random, and tells what it was.
+  /// Does something at random, and reports what it was.
   std::string doSomething();
 
   /// The card, the file and the window stand as the model says.

@@ -108,7 +108,7 @@ void SimulatedWeek::addEntry(const NewEntry& entry, bool inPeace) {
   if (staysUp) click(window.Command2);
 }
 
-// Where a call may have cleared the reply away, the box tells whether it did.
+// Where a call may have cleared the reply away, the box says whether it did.
 void SimulatedWeek::removeEntry(std::size_t row, bool perhapsUnheard) {
   needCalls();
   select(static_cast<int>(row));

@@ -1,5 +1,5 @@
 // A week of all windows, against the rules of the phone book's book-keeping, what the modem has
-// been told before and what its console tells.
+// been told before and what its console reports.
 
 #include <gtest/gtest.h>
 

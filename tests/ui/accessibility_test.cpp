@@ -1,5 +1,6 @@
 #include <QAccessible>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 
 #include "controls/controls.h"
@@ -14,6 +15,8 @@ class AccessibleWindow : public Window {
   Label Label8{*this, "Label8", {.Caption = "<<Signal>>"}};
   Picture Image1{*this, "Image1"};
   ComboBox Combo1{*this, "Combo1", {.Style = ComboStyle::dropDownList}};
+  Frame Frame1{*this, "Frame1", {.Caption = "Flow Control"}};
+  Frame Frame2{*this, "Frame2", {.Caption = "This & That", .In = &Frame1}};
 };
 
 class AccessibilityTest : public FormTest {
@@ -34,6 +37,8 @@ class AccessibilityTest : public FormTest {
   QLabel& link_ = put<QLabel>("Label8");
   QLabel& key_ = put<QLabel>("Image1");
   QComboBox& combo_ = put<QComboBox>("Combo1");
+  QGroupBox& outer_ = put<QGroupBox>("Frame1");
+  QGroupBox& inner_ = put<QGroupBox>("Frame2", &outer_);
 };
 
 TEST_F(AccessibilityTest, LabelsThatActAreButtonsWithAPressAction) {
@@ -59,6 +64,11 @@ TEST_F(AccessibilityTest, ThePressActionClicks) {
   of(link_).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   settle();
   EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(AccessibilityTest, AFrameWithinAFrameGoesByItsOwnCaption) {
+  EXPECT_EQ(of(outer_).text(QAccessible::Name), "Flow Control");
+  EXPECT_EQ(of(inner_).text(QAccessible::Name), "This & That");
 }
 
 TEST_F(AccessibilityTest, ACombosNameIsItsLabels) {

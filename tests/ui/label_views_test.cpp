@@ -72,6 +72,15 @@ TEST_F(LabelViewsTest, AnAmpersandStandsAsItIs) {
   EXPECT_EQ(frame_.title(), "Research && <i>Development</i>") << "Qt shows && as one";
 }
 
+TEST_F(LabelViewsTest, AReplysLineEndTakesNoRoom) {
+  window_.Label1.Caption = "0\r\n";
+  EXPECT_EQ(label_.text(), "0");
+  window_.Label1.Caption = "0,1\r\n\r\nOK\r\n";
+  EXPECT_EQ(label_.text(), "0,1\r\n\r\nOK");
+  window_.Label1.Caption = "\r\n";
+  EXPECT_EQ(label_.text(), "");
+}
+
 TEST_F(LabelViewsTest, ALongTextDoesntPushTheWindowWider) {
   const int width = form().minimumSizeHint().width();
   window_.Label1.Caption = std::string(100'000, 'W');

@@ -15,7 +15,7 @@ namespace gsm {
 ///   This one may be a control's of its own, which is covered while both are on view.
 /// - `whileEmpty`: names of labels, with blanks between. Shown while all of them are empty and no
 ///   handler runs.
-/// - `tellsOfDevice`: true for what tells that the port's device has gone, by the property `gone`
+/// - `tellsOfDevice`: true for what shows that the port's device has gone, by the property `gone`
 ///   (for the style) and its tool tip.
 class Decorations : public QObject {
  public:

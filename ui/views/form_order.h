@@ -23,7 +23,7 @@ class FormOrder : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  std::vector<QWidget*> forms_;  // the one with the keyboard behind all others
+  std::vector<QWidget*> forms_;  // the one with the keyboard last
 };
 
 }  // namespace gsm

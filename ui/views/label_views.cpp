@@ -88,7 +88,7 @@ void LabelView::show(PropertyId property) {
 }
 
 void LabelView::showCaption() {
-  widget_.setText(toQt(control_.Caption.peek()));
+  widget_.setText(withoutLineEnd(toQt(control_.Caption.peek())));
   polishAnew(widget_);  // the style sheet may look at the text, and looks only when asked to
 }
 
@@ -119,7 +119,9 @@ void PictureView::press() {
 void FrameView::show(PropertyId property) {
   auto* box = qobject_cast<QGroupBox*>(&widget_);
   if (box != nullptr && property == PropertyId::Caption) {
-    box->setTitle(withoutMnemonics(toQt(control_.Caption.peek())));
+    const QString caption = toQt(control_.Caption.peek());
+    box->setTitle(withoutMnemonics(caption));
+    box->setAccessibleName(caption);  // Qt gives out that of the box around it
   }
 }
 

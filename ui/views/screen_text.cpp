@@ -8,6 +8,11 @@ namespace gsm {
 
 QString withoutMnemonics(QString text) { return text.replace('&', "&&"); }
 
+QString withoutLineEnd(QString text) {
+  while (text.endsWith('\r') || text.endsWith('\n')) text.chop(1);
+  return text;
+}
+
 // Tool tips guess whether a text is markup. A mark without width keeps its signs from being any.
 QString asTip(const QString& text) {
   if (!Qt::mightBeRichText(text)) return text;

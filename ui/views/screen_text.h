@@ -8,6 +8,10 @@ namespace gsm {
 /// `text` such that Qt shows each "&" of it where it would take a single one for a mnemonic.
 QString withoutMnemonics(QString text);
 
+/// `text` without the carriage returns and line feeds at its end. Slices of a reply are often cut
+/// there, and would be drawn off their line.
+QString withoutLineEnd(QString text);
+
 /// `text` such that Qt takes no part of it for markup in a tool tip.
 QString asTip(const QString& text);
 

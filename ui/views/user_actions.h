@@ -17,7 +17,7 @@ class UserActions {
   UserActions(EventLoop& loop, BusyPointer& pointer, std::function<void()> showAgain)
       : loop_(loop), pointer_(pointer), showAgain_(std::move(showAgain)) {}
 
-  /// Queues `action`, which tells whether the panel let it happen. A widget shows what its user did
+  /// Queues `action`, which says whether the panel let it happen. A widget shows what its user did
   /// at once; when the panel doesn't let it happen (the control went out of reach meanwhile), the
   /// window shows once more how things really are.
   void post(std::function<bool()> action) const {

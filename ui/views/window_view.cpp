@@ -245,6 +245,9 @@ void WindowView::place() {
   if (form_->isMaximized()) return;
   if (lastPlace_ && isOnAScreen({*lastPlace_, form_->size()})) {
     form_->move(*lastPlace_);
+    // Qt takes that for nothing new, and a desktop finds a place of its own for a window without
+    // one.
+    if (QWindow* native = form_->windowHandle()) native->setFramePosition(*lastPlace_);
     return;
   }
   const QWidget* below = order_.lastOnView(*form_);

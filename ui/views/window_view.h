@@ -69,7 +69,7 @@ class WindowView : public QObject, public View {
   std::optional<QPoint> lastPlace_;  // where the user has left it
 };
 
-/// The name of the widget that shows `control`: its own, in an array with "_" and the index behind.
+/// The name of the widget that shows `control`: its own, with "_" and the index in an array.
 QString widgetName(const Control& control);
 
 }  // namespace gsm

@@ -15,7 +15,7 @@ bool hasCome(const EndSignals& signals) {
   return ::poll(&descriptor, 1, 0) == 1;
 }
 
-TEST(EndSignals, TellOfTheFirstThatComes) {
+TEST(EndSignals, ReportTheFirstThatComes) {
   for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
     const EndSignals signals;
     EXPECT_FALSE(hasCome(signals)) << number;

@@ -26,7 +26,7 @@ TEST(MachineClock, BeginsAtZeroAndGoesForward) {
   EXPECT_GE(clock.now(), first + 2ms);
 }
 
-TEST(MachineClock, TellsTheMachinesLocalTime) {
+TEST(MachineClock, ReportsTheMachinesLocalTime) {
   const MachineClock clock;
   const std::time_t before = std::time(nullptr);
   const LocalTime told = clock.localTime();
@@ -93,7 +93,7 @@ TEST(MachineClock, RunsFasterWhenTold) {
   EXPECT_NEAR(static_cast<double>(fast.secondsSinceMidnight() - day), onLine, 2);
 }
 
-TEST(MachineClock, TellsHowLongADurationReallyLasts) {
+TEST(MachineClock, SaysHowLongADurationReallyLasts) {
   EXPECT_EQ(MachineClock(20).realTime(1s), 50ms);
   EXPECT_EQ(MachineClock(1).realTime(1s), 1s);
 }

@@ -14,7 +14,7 @@ struct Row {
   std::vector<CommEvent> events;
 };
 
-TEST(ModemLines, TellWhatHappenedBetweenTwoLooks) {
+TEST(ModemLines, SayWhatHappenedBetweenTwoLooks) {
   const Row rows[] = {
       {"nothing", {.cts = true, .ctsCount = 3}, {.cts = true, .ctsCount = 3}, {}},
       {"a line rose", {}, {.cts = true, .ctsCount = 1}, {CommEvent::cts}},

@@ -53,7 +53,7 @@ TEST_F(PortProbeTest, FindsNoPortWhereThereIsNone) {
   EXPECT_EQ(probe_.access(4), Access::absent);
 }
 
-TEST_F(PortProbeTest, TellsTheMachinesNameOfAPort) {
+TEST_F(PortProbeTest, ReportsTheMachinesNameOfAPort) {
   EXPECT_EQ(probe_.deviceName(kPort), terminal_.device());
   EXPECT_EQ(probe_.deviceName(4), "");
 }

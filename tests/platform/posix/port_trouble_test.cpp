@@ -67,7 +67,7 @@ TEST_F(PortTroubleTest, NamesWhoHasTheDeviceForItselfAlone) {
             "held by " + std::to_string(other.id()) + " (" + programOf(other.id()) + ")");
 }
 
-TEST_F(PortTroubleTest, NamesTheLockFileThatTellsNoHolder) {
+TEST_F(PortTroubleTest, NamesTheLockFileThatNamesNoHolder) {
   layLock("");
   EXPECT_TRUE(probe_.trouble(3).starts_with("held by another program (lock file "));
 }
@@ -126,7 +126,7 @@ class TellingDeviceTest : public PortTroubleTest {
   TellingDevice device_{refusing_, probe_, [this](const std::string& text) { told_ += text; }};
 };
 
-TEST_F(TellingDeviceTest, TellsDeviceReasonAndWhatToDoOnce) {
+TEST_F(TellingDeviceTest, ReportsDeviceReasonAndWhatToDoOnce) {
   const ChildProcess other(terminal_.device());
   layLock(std::to_string(other.id()) + "\n");
   EXPECT_EQ(toldOf(3, "Port already open"),
@@ -137,7 +137,7 @@ TEST_F(TellingDeviceTest, TellsDeviceReasonAndWhatToDoOnce) {
   EXPECT_EQ(toldOf(3, "Port already open"), "");
 }
 
-TEST_F(TellingDeviceTest, TellsOfAnotherReasonAndOfOneThatHasComeBack) {
+TEST_F(TellingDeviceTest, ReportsAnotherReasonAndOneThatHasComeBack) {
   EXPECT_NE(toldOf(3, "Device I/O error: this"), "");
   EXPECT_NE(toldOf(3, "Device I/O error: that"), "");
   EXPECT_EQ(toldOf(3, "Device I/O error: that"), "");
@@ -145,7 +145,7 @@ TEST_F(TellingDeviceTest, TellsOfAnotherReasonAndOfOneThatHasComeBack) {
   EXPECT_NE(toldOf(3, "Device I/O error: that"), "");
 }
 
-TEST_F(TellingDeviceTest, TellsOfAPortThatIsntThere) {
+TEST_F(TellingDeviceTest, ReportsAPortThatIsntThere) {
   EXPECT_TRUE(
       toldOf(4, "Invalid Port Number").starts_with("COM4 can't be used: there is no device "));
 }

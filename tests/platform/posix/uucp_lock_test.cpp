@@ -103,7 +103,7 @@ TEST_F(UucpLockTest, ThisVeryProgramIsNoHolderUnlessItKeepsTheFile) {
   EXPECT_TRUE(held());
 }
 
-TEST_F(UucpLockTest, AFileThatTellsNoProcessIsBelievedWhileItIsYoung) {
+TEST_F(UucpLockTest, AFileThatNamesNoProcessIsBelievedWhileItIsYoung) {
   for (const char* content : {"", "\n", "nobody", "-1\n", "0\n", "12x4\n"}) {
     EXPECT_TRUE(isHeld(content)) << content;
     makeOld();

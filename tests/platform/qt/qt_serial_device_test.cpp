@@ -36,7 +36,7 @@ TEST_F(QtSerialDeviceTest, ReceivesEveryByteAsItIs) {
   EXPECT_EQ(received(256), everyByte());
 }
 
-TEST_F(QtSerialDeviceTest, TellsThatEverythingHasLeft) {
+TEST_F(QtSerialDeviceTest, ReportsThatEverythingHasLeft) {
   open();
   device_.write("AT\r");
   EXPECT_TRUE(record_.left.empty()) << "never from inside the call";
@@ -104,7 +104,7 @@ TEST_F(QtSerialDeviceTest, AReplyThatComesInPiecesIsOneChunk) {
   EXPECT_TRUE(record_.received.ends_with("piece 19\r\n"));
 }
 
-TEST_F(QtSerialDeviceTest, ALineThatDoesntRestIsToldInChunksOfFourKibibytes) {
+TEST_F(QtSerialDeviceTest, ALineThatDoesntRestIsReportedInChunksOfFourKibibytes) {
   open();
   std::size_t done = 0;
   const std::string all(50'000, 'x');
@@ -222,7 +222,7 @@ TEST_F(QtSerialDeviceTest, RefusesFramingThatNoLineHas) {
   EXPECT_EQ(sent(3), "AT\r");
 }
 
-TEST_F(QtSerialDeviceTest, APseudoTerminalTellsNoLineEvents) {
+TEST_F(QtSerialDeviceTest, APseudoTerminalReportsNoLineEvents) {
   open();
   const auto end = clock_.now() + std::chrono::milliseconds(300);
   while (clock_.now() < end) loop_.pass(end);

@@ -16,7 +16,7 @@
 
 namespace gsm {
 
-/// Keeps what a device tells.
+/// Keeps what a device reports.
 class SerialRecord : public SerialDevice::Listener {
  public:
   void bytesArrived(std::string_view bytes) override {

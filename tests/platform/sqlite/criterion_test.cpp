@@ -110,7 +110,7 @@ TEST_P(MetCriterion, IsMetByTextsThatAreEqual) {
   EXPECT_EQ(criterion.isMetBy(GetParam().value), GetParam().met);
 }
 
-TEST(Criterion, AZeroByteBehindTheTextIsRefused) {
+TEST(Criterion, AZeroByteAfterTheTextIsRefused) {
   EXPECT_FALSE(parseCriterion(std::string_view("Name='x'\0", 9)).has_value());
 }
 

@@ -57,7 +57,7 @@ TEST_F(FindFirst, OtherCharactersThatLookLikePairsAreDifferent) {
   EXPECT_EQ(find("Name='ss'"), "");
 }
 
-TEST_F(FindFirst, BlanksBehindTheTextDoNotMatter) {
+TEST_F(FindFirst, BlanksAfterTheTextDoNotMatter) {
   add({"Anna", "Bert  ", " Cora"});
   EXPECT_EQ(find("Name='Anna   '"), "1");
   EXPECT_EQ(find("Name='Bert'"), "2");
@@ -65,7 +65,7 @@ TEST_F(FindFirst, BlanksBehindTheTextDoNotMatter) {
   EXPECT_EQ(find("Name='An na'"), "");
 }
 
-TEST_F(FindFirst, OtherWhiteSpaceBehindTheTextMatters) {
+TEST_F(FindFirst, OtherWhiteSpaceAfterTheTextMatters) {
   add({"Anna\r", "Anna"});
   EXPECT_EQ(find("Name='Anna'"), "2");
 }

@@ -126,7 +126,7 @@ TEST_F(HostileFile, MoreRowsThanAnyCardHasAreAFailure) {
   EXPECT_EQ(failed.description, "Unrecognized database format: it has too many rows");
 }
 
-// The pages of a table's tree, of which the upper ones tell where the lower ones are.
+// The pages of a table's tree, of which the upper ones say where the lower ones are.
 class HostileTree : public HostileFile {
  protected:
   HostileTree() {

@@ -16,12 +16,12 @@ class Telling : public BookTest {
   TellingEngine engine_{plain_, [this](const std::string& text) { told_.push_back(text); }};
 };
 
-TEST_F(Telling, AFileThatOpensIsNotToldOf) {
+TEST_F(Telling, AFileThatOpensIsNotReported) {
   EXPECT_EQ(open("phonebook.mdb").number, 0);
   EXPECT_EQ(told_, std::vector<std::string>{});
 }
 
-TEST_F(Telling, TheFirstFailureIsToldOfWithTheFileAndWhatToDo) {
+TEST_F(Telling, TheFirstFailureIsReportedWithTheFileAndWhatToDo) {
   const Failed failed = open("none.mdb");
   EXPECT_EQ(failed.number, 3024);
   const std::string path = (folder_.path() / "none.mdb").string();
@@ -40,13 +40,13 @@ TEST_F(Telling, LaterFailuresAreOnlyFailures) {
   EXPECT_EQ(told_.size(), 1u);
 }
 
-TEST_F(Telling, AFileThatIsNoDatabaseIsToldOf) {
+TEST_F(Telling, AFileThatIsNoDatabaseIsReported) {
   folder_.write("text.mdb", std::string(5000, 'x'));
   EXPECT_EQ(open("text.mdb").number, 3343);
   EXPECT_EQ(told_.size(), 1u);
 }
 
-TEST_F(Telling, AFileWithoutItsTablesIsToldOfOnce) {
+TEST_F(Telling, AFileWithoutItsTablesIsReportedOnce) {
   folder_.write("empty.mdb", "");  // an empty file is a database without tables
   const auto database = engine_.OpenDatabase(folder_.path() / "empty.mdb");
   EXPECT_EQ(told_, std::vector<std::string>{});
@@ -58,7 +58,7 @@ TEST_F(Telling, AFileWithoutItsTablesIsToldOfOnce) {
   EXPECT_EQ(told_.size(), 1u);
 }
 
-TEST_F(Telling, AStatementThatFailsIsToldOf) {
+TEST_F(Telling, AStatementThatFailsIsReported) {
   const auto database = engine_.OpenDatabase(folder_.path() / "phonebook.mdb");
   database->Execute("delete from data");
   EXPECT_EQ(told_, std::vector<std::string>{});
@@ -73,7 +73,7 @@ TEST_F(Telling, TheFileIsNamedAsItIsReallySpelled) {
   EXPECT_NE(told_[0].find((folder_.path() / "Text.MDB").string()), std::string::npos);
 }
 
-TEST_F(Telling, AChangeThatFailsIsToldOfOnceWhateverWasToldBefore) {
+TEST_F(Telling, AChangeThatFailsIsReportedOnceWhateverWasReportedBefore) {
   open("none.mdb");
   told_.clear();
   const auto set = engine_.OpenDatabase(file_)->openRecordSet("DATA");
@@ -90,7 +90,7 @@ TEST_F(Telling, AChangeThatFailsIsToldOfOnceWhateverWasToldBefore) {
             std::string::npos);
 }
 
-TEST_F(Telling, ADeletionThatFailsIsToldOf) {
+TEST_F(Telling, ADeletionThatFailsIsReported) {
   add({"Anna"});
   const auto set = engine_.OpenDatabase(file_)->openRecordSet("DATA");
   const auto other = this->BookTest::open();
@@ -99,14 +99,14 @@ TEST_F(Telling, ADeletionThatFailsIsToldOf) {
   EXPECT_EQ(told_.size(), 1u);
 }
 
-TEST_F(Telling, AReadingThatFailsIsToldOf) {
+TEST_F(Telling, AReadingThatFailsIsReported) {
   add({"Anna"});
   const auto set = engine_.OpenDatabase(file_)->openRecordSet("DATA");
   EXPECT_EQ(failureOf([&] { set->field("Phone"); }).number, 3265);
   EXPECT_EQ(told_.size(), 1u);
 }
 
-TEST_F(Telling, WhatAHandlerAsksForInVainIsNotToldOf) {
+TEST_F(Telling, WhatAHandlerAsksForInVainIsNotReported) {
   add({"O'Neil"});
   const auto set = engine_.OpenDatabase(file_)->openRecordSet("DATA");
   EXPECT_EQ(failureOf([&] { set->FindFirst("Name='O'Neil'"); }).number, 3077);

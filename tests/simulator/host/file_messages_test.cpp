@@ -26,7 +26,7 @@ TEST(FileMessages, NoFileIsAFreshCard) {
   EXPECT_EQ(FileMessages((folder.path() / "none").string()).load(), simulator::factoryMessages());
 }
 
-TEST(FileMessages, UnreadableLinesAreToldAndPassedOver) {
+TEST(FileMessages, UnreadableLinesAreReportedAndPassedOver) {
   const TemporaryFolder folder;
   const std::string path = (folder.path() / "messages").string();
   std::ofstream(path) << "noise\n3\tSTO UNSENT\t0123\t\tone\n";
@@ -36,7 +36,7 @@ TEST(FileMessages, UnreadableLinesAreToldAndPassedOver) {
             "messages " + path + ", line 1: the location isn't a number from 1 to 20\n");
 }
 
-TEST(FileMessages, FileThatCantBeReadIsRefusedAndOneThatCantBeWrittenTold) {
+TEST(FileMessages, FileThatCantBeReadIsRefusedAndOneThatCantBeWrittenReported) {
   const TemporaryFolder folder;
   std::filesystem::create_directory((folder.path() / "messages").string());
   EXPECT_THROW(FileMessages((folder.path() / "messages").string()).load(), std::runtime_error);

@@ -49,7 +49,7 @@ TEST_F(FilePhoneBookTest, EmptyFileIsAnEmptyBook) {
   EXPECT_TRUE(loaded_.empty());
 }
 
-TEST_F(FilePhoneBookTest, UnreadableLinesAreToldAndPassedOver) {
+TEST_F(FilePhoneBookTest, UnreadableLinesAreReportedAndPassedOver) {
   write(
       "1\t112\tHelp\n\x7F"
       "ELF\n2\tx\ty\n");
