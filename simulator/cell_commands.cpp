@@ -5,9 +5,8 @@ namespace gsm::simulator {
 
 namespace {
 
-// The codes of AT+CCED.
+// The codes of AT+CCED; 1 dumps by itself.
 constexpr int kOnce = 0;
-constexpr int kByItself = 1;
 constexpr int kStop = 2;
 constexpr Range kModes = {kOnce, kStop};
 constexpr Range kDumps = {kMainCell, kWholeDump};
