@@ -84,7 +84,7 @@ TEST_F(QtSerialDeviceTest, GoesOnReceivingWhileAListenerWaits) {
   device_.listen(&listener);
   open();
   const auto later = loop_.every(std::chrono::milliseconds(30), [&, sentOnce = false]() mutable {
-    if (!std::exchange(sentOnce, true)) terminal_->write("b");
+    if (listener.received == "a" && !std::exchange(sentOnce, true)) terminal_->write("b");
   });
   terminal_->write("a");
   EXPECT_TRUE(runUntil(loop_, [&] { return listener.complete; }));
