@@ -19,7 +19,14 @@
 namespace gsm {
 namespace {
 
-class RecordedSecrets : public PanelTest, public ::testing::WithParamInterface<std::size_t> {
+// Is there before the panel and goes after it, since the panel's end is in the record too.
+struct KeptRecord {
+  std::ostringstream record_;
+};
+
+class RecordedSecrets : protected KeptRecord,
+                        public PanelTest,
+                        public ::testing::WithParamInterface<std::size_t> {
  protected:
   void begin(simulator::SimStatus sim) {
     layComFile("9600,N,8,1 3\r\n");
@@ -73,7 +80,6 @@ class RecordedSecrets : public PanelTest, public ::testing::WithParamInterface<s
     }
   }
 
-  std::ostringstream record_;
   std::unique_ptr<SimulatedModem> modem_;
 };
 
