@@ -78,7 +78,7 @@ struct Step {
   void (*taken)(Form15& window, Form1& form1, const Codes& codes);
   std::string_view failed;
 };
-// A modem that has changed its rate hears none of the steps behind the first: the port stays at the
+// A modem that has changed its rate hears none of the steps after the first: the port stays at the
 // old one, and silence counts as success.
 constexpr std::array kSteps = {
     Step{"AT+IPR=", &Codes::rate, nullptr, showRate, " Changes UnsuccessFul-IPR "},

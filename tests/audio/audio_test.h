@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "audio/form6.h"
 #include "tests/support/feature_window_test.h"
@@ -50,6 +51,19 @@ class AudioTest : public FeatureWindowTest {
   Texts pages() {
     return shownOf({&form().Frame1, &form().Frame2, &form().Frame10, &form().Frame12});
   }
+};
+
+/// What the dispatcher says of a change of echo or side tone.
+struct DispatchedRow {
+  std::string name;
+  std::string reply;
+  std::string status;
+};
+inline const std::vector<DispatchedRow> kDispatchedOutcomes = {
+    {"Success", kOk, "Changes SuccessFul"},
+    {"Refusal", kError, "UnSuccessFul.Try Again"},
+    {"BothWords", "\r\nERROR\r\n\r\nOK\r\n", "Changes SuccessFul"},
+    {"TheEchoAlone", "", "UnSuccessFul.Try Again"},
 };
 
 }  // namespace gsm

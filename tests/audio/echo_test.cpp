@@ -198,13 +198,7 @@ INSTANTIATE_TEST_SUITE_P(
         SentEchoRow{"NothingWithoutBoth", "", "", kNear, {}}),
     RowName());
 
-struct EchoOutcomeRow {
-  std::string name;
-  std::string reply;
-  std::string status;
-};
-
-class EchoOutcome : public Echo, public ::testing::WithParamInterface<EchoOutcomeRow> {};
+class EchoOutcome : public Echo, public ::testing::WithParamInterface<DispatchedRow> {};
 
 TEST_P(EchoOutcome, IsTheDispatchersToTell) {
   pick("0", "1");
@@ -215,13 +209,7 @@ TEST_P(EchoOutcome, IsTheDispatchersToTell) {
   expectAtRest();
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Of, EchoOutcome,
-    ::testing::Values(EchoOutcomeRow{"Success", kOk, "Changes SuccessFul"},
-                      EchoOutcomeRow{"Refusal", kError, "UnSuccessFul.Try Again"},
-                      EchoOutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n", "Changes SuccessFul"},
-                      EchoOutcomeRow{"TheEchoAlone", "", "UnSuccessFul.Try Again"}),
-    RowName());
+INSTANTIATE_TEST_SUITE_P(Of, EchoOutcome, ::testing::ValuesIn(kDispatchedOutcomes), RowName());
 
 TEST_F(Echo, OfAModemWithoutEchoGetsNoOutcome) {
   pick("0", "1");

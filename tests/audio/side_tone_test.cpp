@@ -72,14 +72,8 @@ TEST_F(SideToneChange, ItsOptionsLeaveThoseOfTheAnswerAlone) {
   EXPECT_TRUE(form().Option4.Value.peek());
 }
 
-struct SideToneOutcomeRow {
-  std::string name;
-  std::string reply;
-  std::string status;
-};
-
 class SideToneOutcome : public SideToneChange,
-                        public ::testing::WithParamInterface<SideToneOutcomeRow> {};
+                        public ::testing::WithParamInterface<DispatchedRow> {};
 
 TEST_P(SideToneOutcome, IsTheDispatchersToTell) {
   click(form().Option2);
@@ -90,14 +84,7 @@ TEST_P(SideToneOutcome, IsTheDispatchersToTell) {
   expectAtRest();
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Of, SideToneOutcome,
-    ::testing::Values(SideToneOutcomeRow{"Success", kOk, "Changes SuccessFul"},
-                      SideToneOutcomeRow{"Refusal", kError, "UnSuccessFul.Try Again"},
-                      SideToneOutcomeRow{"BothWords", "\r\nERROR\r\n\r\nOK\r\n",
-                                         "Changes SuccessFul"},
-                      SideToneOutcomeRow{"TheEchoAlone", "", "UnSuccessFul.Try Again"}),
-    RowName());
+INSTANTIATE_TEST_SUITE_P(Of, SideToneOutcome, ::testing::ValuesIn(kDispatchedOutcomes), RowName());
 
 TEST_F(SideToneChange, OfAModemWithoutEchoGetsNoOutcome) {
   click(form().Option2);

@@ -271,21 +271,12 @@ TEST_F(ContextsChange, OpenedAgainReadsAgain) {
 }
 
 TEST_F(ContextsChange, TheTitleThatTheMenuGivesStandsUntilTheWindowIsLoadedAnew) {
-  EXPECT_EQ(form().Caption.peek(), "GSM-GPRS SETTINGS");
-  openBy(panel().form16.Command3);
-  EXPECT_EQ(form().Caption.peek(), "GSM-GPRS Configuration");
-  press(form().Command2);
-  EXPECT_EQ(form().Caption.peek(), "GSM-GPRS Configuration");
-  closeWindow();
-  inPanel([this] { window().Show(); });
-  run(0);
-  EXPECT_EQ(form().Caption.peek(), "GSM-GPRS SETTINGS");
+  expectTitles(panel().form16.Command3, form().Command2, "GSM-GPRS SETTINGS",
+               "GSM-GPRS Configuration");
 }
 
 TEST_F(ContextsChange, MinimisingAndRestoringItTakesTheStatusWindowAlong) {
-  EXPECT_EQ(minimisedLike(WindowState::minimised), WindowState::minimised);
-  EXPECT_EQ(minimisedLike(WindowState::maximised), WindowState::minimised);
-  EXPECT_EQ(minimisedLike(WindowState::normal), WindowState::normal);
+  expectStatusWindowFollows();
 }
 
 }  // namespace

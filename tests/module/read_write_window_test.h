@@ -23,6 +23,24 @@ class ReadWriteWindowTest : public FeatureWindowTest {
     run(0);
     return panel().form7.WindowState.peek();
   }
+  /// Opened by `opener` of the menu the window has the title that the menu gives, also when it
+  /// reads anew by `refresh`; closed and loaded anew it has its own.
+  void expectTitles(CommandButton& opener, CommandButton& refresh, const std::string& own,
+                    const std::string& given) {
+    EXPECT_EQ(window().Caption.peek(), own);
+    openBy(opener);
+    EXPECT_EQ(window().Caption.peek(), given);
+    press(refresh);
+    EXPECT_EQ(window().Caption.peek(), given);
+    closeWindow();
+    beginLoad();
+    EXPECT_EQ(window().Caption.peek(), own);
+  }
+  void expectStatusWindowFollows() {
+    EXPECT_EQ(minimisedLike(WindowState::minimised), WindowState::minimised);
+    EXPECT_EQ(minimisedLike(WindowState::maximised), WindowState::minimised);
+    EXPECT_EQ(minimisedLike(WindowState::normal), WindowState::normal);
+  }
   /// The modem answers `command` with the first `cut` bytes of its echo and `text`, and with the
   /// rest `restAfter` seconds later, if at all.
   void replyCut(const std::string& command, const std::string& text, int cut,

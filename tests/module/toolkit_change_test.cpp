@@ -342,21 +342,12 @@ TEST_F(ToolkitChange, OpenedAgainReadsAgain) {
 }
 
 TEST_F(ToolkitChange, TheTitleThatTheMenuGivesStandsUntilTheWindowIsLoadedAnew) {
-  EXPECT_EQ(form().Caption.peek(), "GSM-SIM TOOl KIT SETTINGS");
-  openBy(panel().form16.Command2);
-  EXPECT_EQ(form().Caption.peek(), "GSM-SIM TOOLKIT Facility");
-  press(form().Command2);
-  EXPECT_EQ(form().Caption.peek(), "GSM-SIM TOOLKIT Facility");
-  closeWindow();
-  inPanel([this] { window().Show(); });
-  run(0);
-  EXPECT_EQ(form().Caption.peek(), "GSM-SIM TOOl KIT SETTINGS");
+  expectTitles(panel().form16.Command2, form().Command2, "GSM-SIM TOOl KIT SETTINGS",
+               "GSM-SIM TOOLKIT Facility");
 }
 
 TEST_F(ToolkitChange, MinimisingAndRestoringItTakesTheStatusWindowAlong) {
-  EXPECT_EQ(minimisedLike(WindowState::minimised), WindowState::minimised);
-  EXPECT_EQ(minimisedLike(WindowState::maximised), WindowState::minimised);
-  EXPECT_EQ(minimisedLike(WindowState::normal), WindowState::normal);
+  expectStatusWindowFollows();
 }
 
 }  // namespace
