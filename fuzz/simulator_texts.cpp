@@ -5,11 +5,11 @@
 
 #include "fuzz/must_hold.h"
 #include "fuzz/text_readers.h"
+#include "simulator/card/phone_book_text.h"
 #include "simulator/host/line_splitter.h"
-#include "simulator/message_text.h"
+#include "simulator/messages/message_text.h"
 #include "simulator/modem.h"
-#include "simulator/phone_book_text.h"
-#include "simulator/profile.h"
+#include "simulator/profile/profile.h"
 #include "tests/simulator/virtual_timeline.h"
 
 namespace gsm {

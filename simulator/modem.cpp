@@ -4,9 +4,9 @@
 #include <utility>
 #include <vector>
 
-#include "simulator/command_table.h"
-#include "simulator/console_table.h"
-#include "simulator/line_speed.h"
+#include "simulator/commands/command_table.h"
+#include "simulator/console/console_table.h"
+#include "simulator/line/line_speed.h"
 
 namespace gsm::simulator {
 

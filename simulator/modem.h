@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
-#include "simulator/line_input.h"
-#include "simulator/modem_state.h"
-#include "simulator/reply.h"
-#include "simulator/timeline.h"
+#include "simulator/dialogue/reply.h"
+#include "simulator/line/line_input.h"
+#include "simulator/line/timeline.h"
+#include "simulator/state/modem_state.h"
 
 namespace gsm::simulator {
 

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "simulator/profile.h"
-#include "simulator/text.h"
+#include "simulator/profile/profile.h"
+#include "simulator/text/text.h"
 
 namespace gsm::simulator {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <variant>
 
-#include "simulator/modem_options.h"
+#include "simulator/state/modem_options.h"
 
 namespace gsm::simulator {
 

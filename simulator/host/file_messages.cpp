@@ -1,6 +1,6 @@
 #include "simulator/host/file_messages.h"
 
-#include "simulator/message_text.h"
+#include "simulator/messages/message_text.h"
 
 namespace gsm::pty {
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "simulator/host/entry_file.h"
-#include "simulator/message.h"
+#include "simulator/messages/message.h"
 
 namespace gsm::pty {
 

@@ -1,6 +1,6 @@
 #include "simulator/host/file_phone_book.h"
 
-#include "simulator/phone_book_text.h"
+#include "simulator/card/phone_book_text.h"
 
 namespace gsm::pty {
 

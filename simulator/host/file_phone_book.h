@@ -5,8 +5,8 @@
 #include <string_view>
 #include <utility>
 
+#include "simulator/card/phone_book.h"
 #include "simulator/host/entry_file.h"
-#include "simulator/phone_book.h"
 
 namespace gsm::pty {
 

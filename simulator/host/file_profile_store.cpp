@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "simulator/host/text_file.h"
-#include "simulator/profile.h"
+#include "simulator/profile/profile.h"
 
 namespace gsm::pty {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "simulator/profile_store.h"
+#include "simulator/profile/profile_store.h"
 
 namespace gsm::pty {
 

@@ -7,7 +7,7 @@
 #include <optional>
 #include <utility>
 
-#include "simulator/timeline.h"
+#include "simulator/line/timeline.h"
 
 namespace gsm::pty {
 

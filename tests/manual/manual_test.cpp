@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "simulator/console_table.h"
+#include "simulator/console/console_table.h"
 #include "tests/manual/design_words.h"
 #include "tests/manual/manual_page.h"
 

@@ -7,7 +7,7 @@
 #include <map>
 #include <utility>
 
-#include "simulator/timeline.h"
+#include "simulator/line/timeline.h"
 
 namespace gsm::simulator {
 

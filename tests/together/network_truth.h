@@ -4,7 +4,7 @@
 #include <map>
 #include <string>
 
-#include "simulator/message.h"
+#include "simulator/messages/message.h"
 
 namespace gsm {
 

@@ -16,7 +16,7 @@
 #include "services/form12.h"
 #include "settings/form14.h"
 #include "settings/form15.h"
-#include "simulator/phone_book_text.h"
+#include "simulator/card/phone_book_text.h"
 #include "sms/form8.h"
 
 namespace gsm {

@@ -7,7 +7,7 @@
 #include "module/form18.h"
 #include "module/form19.h"
 #include "panel/form1.h"
-#include "simulator/message.h"
+#include "simulator/messages/message.h"
 #include "tests/together/simulated_week.h"
 
 namespace gsm {

@@ -5,9 +5,9 @@
 #include "link/text.h"
 #include "modem/form11.h"
 #include "panel/form1.h"
-#include "simulator/message_text.h"
-#include "simulator/service_classes.h"
-#include "simulator/text.h"
+#include "simulator/messages/message_text.h"
+#include "simulator/network/service_classes.h"
+#include "simulator/text/text.h"
 #include "sms/form8.h"
 #include "tests/together/simulated_week.h"
 

@@ -4,7 +4,7 @@
 
 #include "panel/form1.h"
 #include "services/form12.h"
-#include "simulator/service_classes.h"
+#include "simulator/network/service_classes.h"
 #include "tests/together/simulated_week.h"
 
 namespace gsm {
