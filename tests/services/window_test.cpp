@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "panel/choices.h"
 #include "panel/form7.h"
 #include "tests/services/services_test.h"
 
@@ -34,6 +35,14 @@ TEST_F(ServicesWindow, ThePasswordsBoxTakesDigitsAndBackspaceOnly) {
   EXPECT_EQ(typePassword("56"), "1905");
   EXPECT_EQ(typePassword("\b\b\b\b\b"), "");
   EXPECT_EQ(typePassword("3478"), "3478");
+}
+
+TEST_F(ServicesWindow, TheFilterLetsDigitsAndBackspaceThroughAlone) {
+  const std::string passing = "1234567890\b";
+  for (int key = 0; key < 256; ++key) {
+    const bool passes = passing.find(static_cast<char>(key)) != std::string::npos;
+    EXPECT_EQ(LimitTextInput(key), passes ? key : 0) << key;
+  }
 }
 
 TEST_F(ServicesWindow, ThePasswordsBoxCutsWhatIsPasted) {
