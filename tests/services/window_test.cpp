@@ -14,7 +14,7 @@ class ServicesWindow : public ServicesTest {
     ServicesTest::SetUp();
     openWindow();
   }
-  /// The user types `keys` behind what stands in the password's box.
+  /// The user types `keys` after what stands in the password's box.
   std::string typePassword(const std::string& keys) {
     act([this, keys] { form().Text2.userType(keys); });
     return form().Text2.Text.peek();
