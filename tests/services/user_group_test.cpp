@@ -160,6 +160,21 @@ TEST_F(UserGroup, AReplyWithoutEchoIsReadTheSame) {
             "Current Status: CUG Mode Enabled    ,CUG Index 10   ,Suppress Preferential CUG");
 }
 
+// As many characters are read as the first "OK" stands at, which with the echo in front of it is
+// just enough.
+TEST_F(UserGroup, AnOkInFrontOfTheLineIsAsFarAsItIsRead) {
+  reply("AT+CCUG?", "\r\nOK\r\n" + information("+CCUG: 1,3,0"));
+  turnTo(userGroup);
+  EXPECT_EQ(shown(), "Current Status: CUG Mode Enabled    ,CUG Index 3   ,Default");
+  EXPECT_EQ(transcript(), "");
+  const std::string early = "\r\nOK\r\n" + information("+CCUG: 1,3,0");
+  replyWithoutEcho("AT+CCUG?", early);
+  turnTo(userGroup);
+  EXPECT_EQ(shown(), "Plz wait...");
+  EXPECT_EQ(transcript(), early);
+  expectAtRest();
+}
+
 struct BrokenGroupRow {
   std::string name;
   std::string reply;

@@ -180,6 +180,15 @@ TEST_F(PickName, TakesTheNumberAsItStandsInTheBookByThen) {
   EXPECT_EQ(number(), "113");
 }
 
+// Twice listed, the open record set holds the names alone.
+TEST_F(PickName, ReadsMoreThanTheNamesThatWereListed) {
+  layEntries({{"1", "112", "HELP"}});
+  list();
+  list();
+  pick("HELP");
+  EXPECT_EQ(number(), "112");
+}
+
 TEST_F(PickName, OfAnEntryThatHasGoneChangesNothing) {
   layEntries({{"1", "112", "HELP"}, {"2", "113", "MORE"}});
   list();

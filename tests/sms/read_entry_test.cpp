@@ -149,6 +149,8 @@ INSTANTIATE_TEST_SUITE_P(
         EntryRow{"ToANumberInPieces", "\r\n+CMGR: \"STO SENT\",\"0 1 4\",\r\nABC\r\n\r\nOK\r\n", "",
                  "", false},
         EntryRow{"WithoutAResult", "\r\n+CMGR: \"STO SENT\",\"0146\",\r\nABC\r\n", "", "", false},
+        // What is cut out for the number goes on beyond the result.
+        EntryRow{"WithAResultInTheNumber", "\r\n+CMGR: \"STO SENT\",\"01OK\r\n", "", ""},
         EntryRow{"WithoutALineEnd", "\r\n+CMGR: \"STO SENT\",\"0146\",OK", "", "", false},
         EntryRow{"BesideAnErrorSaysNoMessage",
                  "\r\nERROR\r\n\r\n+CMGR: \"STO SENT\",\"0146\",\r\nABC\r\n\r\nOK\r\n",
