@@ -5,6 +5,7 @@
 
 #include "panel/form7.h"
 #include "tests/audio/audio_test.h"
+#include "tests/support/property_watch.h"
 
 namespace gsm {
 namespace {
@@ -53,6 +54,28 @@ TEST_F(AudioClosing, SavesTheProfileAndGoesAfterASecond) {
   EXPECT_EQ(transcript(), "");
   settle();
   EXPECT_EQ(sent(), Texts{});
+}
+
+// Some window is on view all the while, and the main one never comes up over an old reply.
+TEST_F(AudioClosing, BringsTheMainWindowBackOverAnEmptyTranscriptBeforeTheWindowGoes) {
+  leaveInTranscript("old");
+  Texts steps;
+  const PropertyWatch ofTranscript(form1().Text1, [&](PropertyId property) {
+    if (property == PropertyId::Text) steps.push_back("the transcript is \"" + transcript() + "\"");
+  });
+  const PropertyWatch ofMain(form1(), [&](PropertyId property) {
+    if (property == PropertyId::Visible) steps.emplace_back("the main window comes");
+  });
+  const PropertyWatch ofStatus(form1().Label5, [&](PropertyId property) {
+    if (property == PropertyId::Caption) steps.push_back("it says " + caption(form1().Label5));
+  });
+  const PropertyWatch ofWindow(form(), [&](PropertyId property) {
+    if (property == PropertyId::Visible) steps.emplace_back("the window goes");
+  });
+  closeWindow();
+  settle();
+  EXPECT_EQ(steps, (Texts{"the transcript is \"\"", "the main window comes", "it says ",
+                          "the window goes"}));
 }
 
 TEST_F(AudioClosing, IsTheSameWhateverTheModemSays) {

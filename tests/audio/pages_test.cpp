@@ -2,6 +2,7 @@
 
 #include "panel/form7.h"
 #include "tests/audio/audio_test.h"
+#include "tests/support/property_watch.h"
 
 namespace gsm {
 namespace {
@@ -165,6 +166,15 @@ TEST_F(AudioBack, BackSendsNothingAndKeepsTheStatusLineAndTheTranscript) {
   EXPECT_FALSE(form().Visible.peek());
   EXPECT_TRUE(form().isLoaded());
   expectAtRest();
+}
+
+TEST_F(AudioBack, BackBringsTheMainWindowUpBeforeTheWindowGoes) {
+  bool mainWasUp = false;
+  const PropertyWatch watch(form(), [&](PropertyId property) {
+    if (property == PropertyId::Visible) mainWasUp = form1().Visible.peek();
+  });
+  press(form().Command2);
+  EXPECT_TRUE(mainWasUp);
 }
 
 TEST_F(AudioBack, TheNextOpeningFindsAllAsItWasLeft) {

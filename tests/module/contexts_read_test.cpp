@@ -299,6 +299,34 @@ TEST_F(ContextsRead, ClosingTheWindowInARefreshEndsTheFirstReadingAtTheSecondCon
   expectAtRest();
 }
 
+// Which contexts there are was known before, so the second is still looked for, and its want ends
+// the first reading before it says that there is a status.
+TEST_F(ContextsRead, ClosingTheWindowInARefreshDoesntMakeTheFirstReadingForgetTheSecondContext) {
+  load(lines({kInternet, "+CGDCONT: 2,\"IP\",\"b\",,0,0"}));
+  click(form().Command2);
+  run(0.5);
+  reply("AT+CGDCONT?", kOk);
+  closeWindow();
+  settle();
+  EXPECT_EQ(grid(), (Texts{"1|IP|internet"}));
+  EXPECT_EQ(line(), "");
+  EXPECT_FALSE(hasHeadings());
+  expectAtRest();
+}
+
+TEST_F(ContextsRead, ClosingTheWindowInARefreshDoesntMakeTheFirstReadingForgetTheError) {
+  load("\r\n" + std::string(kInternet) + "\r\n\r\nERROR\r\n");
+  click(form().Command2);
+  run(0.5);
+  reply("AT+CGDCONT?", information(kInternet));
+  closeWindow();
+  settle();
+  EXPECT_EQ(grid(), Texts{});
+  EXPECT_EQ(line(), "Current Status Not Avialable");
+  EXPECT_FALSE(hasHeadings());
+  expectAtRest();
+}
+
 TEST_F(ContextsRead, MidnightEndsItWhereItIs) {
   startWithOpenPort({2026, 3, 1, 23, 59, 0});
   reply("AT+CGDCONT?", information(kInternet));

@@ -49,6 +49,15 @@ TEST_F(FeaturesMenu, ClosingItBringsTheMainWindowBackWithItsStatusLine) {
   EXPECT_EQ(sent(), Texts{});
 }
 
+TEST_F(FeaturesMenu, TheMainWindowComesBackBeforeItGoes) {
+  bool mainWasUp = false;
+  const PropertyWatch watch(menu(), [&](PropertyId property) {
+    if (property == PropertyId::Visible) mainWasUp = form1().Visible.peek();
+  });
+  closeMenu();
+  EXPECT_TRUE(mainWasUp);
+}
+
 TEST_F(FeaturesMenu, MinimisingAndRestoringItTakesTheStatusWindowAlong) {
   const auto setState = [this](int state) {
     inPanel([this, state] { menu().userState(state); });

@@ -249,6 +249,19 @@ TEST_F(ToolkitRead, ClosingTheWindowInARefreshLoadsItAnewWithWhatWasTold) {
   expectAtRest();
 }
 
+// Its own reading clears the error that the first one had seen by then.
+TEST_F(ToolkitRead, ClosingTheWindowInARefreshDoesntMakeTheFirstReadingForgetTheError) {
+  load("\r\n+STSF: " + kActive + "\r\n\r\nOK\r\n\r\nERROR\r\n");
+  click(form().Command2);
+  run(0.5);
+  reply("AT+STSF?", information("+STSF: " + kActive));
+  closeWindow();
+  settle();
+  EXPECT_EQ(status(), (Texts{"Cannot Get The Current Status", "TIMEOUT: 3", kResponse}));
+  EXPECT_EQ(mode(), "Activate");
+  expectAtRest();
+}
+
 TEST_F(ToolkitRead, MidnightEndsItWhereItIs) {
   startWithOpenPort({2026, 3, 1, 23, 59, 0});
   reply("AT+STSF?", information("+STSF: " + kActive));

@@ -2,6 +2,7 @@
 
 #include "panel/form7.h"
 #include "tests/settings/data_test.h"
+#include "tests/support/property_watch.h"
 
 namespace gsm {
 namespace {
@@ -62,6 +63,18 @@ TEST_F(DataWindow, ClosingItSendsNothingAndBringsThePanelBack) {
   EXPECT_EQ(caption(form1().Label5), "before");
   EXPECT_EQ(sent(), Texts{});
   expectAtRest();
+}
+
+TEST_F(DataWindow, ThePanelComesBackBeforeItGoes) {
+  openWindow();
+  inPanel([this] { form1().Hide(); });
+  run(0);
+  bool panelWasUp = false;
+  const PropertyWatch watch(form(), [&](PropertyId property) {
+    if (property == PropertyId::Visible) panelWasUp = form1().Visible.peek();
+  });
+  closeWindow();
+  EXPECT_TRUE(panelWasUp);
 }
 
 TEST_F(DataWindow, MinimisingAndRestoringItTakesTheStatusWindowAlong) {

@@ -3,6 +3,7 @@
 #include "panel/form7.h"
 #include "tests/settings/line_settings_test.h"
 #include "tests/support/healthy_modem_test.h"
+#include "tests/support/property_watch.h"
 
 namespace gsm {
 namespace {
@@ -61,6 +62,17 @@ TEST_F(LineSettings, ClosedBringTheMainWindowBackAndSendNothing) {
   EXPECT_EQ(form1().Label5.Caption.peek(), "as it was");
   EXPECT_EQ(sent(), Texts{});
   expectAtRest();
+}
+
+TEST_F(LineSettings, ClosedBringTheMainWindowBackBeforeTheyGo) {
+  inPanel([this] { form1().Hide(); });
+  run(0);
+  bool mainWasUp = false;
+  const PropertyWatch watch(form(), [&](PropertyId property) {
+    if (property == PropertyId::Visible) mainWasUp = form1().Visible.peek();
+  });
+  closeWindow();
+  EXPECT_TRUE(mainWasUp);
 }
 
 TEST_F(LineSettings, TakeTheStatusWindowAlongWhenMinimised) {
