@@ -47,6 +47,11 @@ def text(node):
 
 def windows(program):
     """Those that the program has on view."""
+    shown = []
     for application in children(Atspi.get_desktop(0)):
-        if application.get_name() == program:
-            yield from (each for each in children(application) if State.SHOWING in states(each))
+        try:
+            if application.get_name() == program:
+                shown += [each for each in children(application) if State.SHOWING in states(each)]
+        except Gone:
+            pass  # one that has ended may stand in the list yet
+    return shown
