@@ -41,6 +41,11 @@ class AccessibilityTest : public FormTest {
   QGroupBox& inner_ = put<QGroupBox>("Frame2", &outer_);
 };
 
+TEST_F(AccessibilityTest, AFormIsAWindowAndAPartOfItIsNone) {
+  EXPECT_EQ(of(form()).role(), QAccessible::Window);
+  EXPECT_NE(of(*new QWidget(&form())).role(), QAccessible::Window);
+}
+
 TEST_F(AccessibilityTest, LabelsThatActAreButtonsWithAPressAction) {
   for (QLabel* label : {&link_, &key_}) {
     EXPECT_EQ(of(*label).role(), QAccessible::Button);

@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
@@ -111,9 +112,27 @@ TEST_F(TextViewsTest, AMaskedBoxShowsAsterisks) {
 
 TEST_F(TextViewsTest, ABoxShowsWhatItsControlHoldsOfAPaste) {
   line_.setText("1\rATD112;\r");
-  emit line_.textEdited(line_.text());
   settle();
   EXPECT_EQ(line_.text().toStdString(), window_.Text1.Text.peek());
+}
+
+TEST_F(TextViewsTest, ABoxTakesWhatAssistiveTechnologyPutsIn) {
+  for (QWidget* widget : {static_cast<QWidget*>(&line_), static_cast<QWidget*>(&lines_)}) {
+    QAccessible::queryAccessibleInterface(widget)->setText(QAccessible::Value, "+3363998");
+  }
+  settle();
+  EXPECT_EQ(window_.Text1.Text.peek(), "+3363998");
+  EXPECT_EQ(window_.Text3.Text.peek(), "+3363998");
+}
+
+TEST_F(TextViewsTest, WhatThePanelShowsIsNoEditByTheUser) {
+  int changes = 0;
+  window_.Text1.Change = [&] { ++changes; };
+  window_.Text1.Text = "second";
+  window_.Text1.MaxLength = 3;
+  settle();
+  EXPECT_EQ(changes, 1) << "the assignment's own";
+  EXPECT_EQ(window_.Text1.Text.peek(), "second");
 }
 
 TEST_F(TextViewsTest, ABoxTakesNoMoreThanItsLimit) {

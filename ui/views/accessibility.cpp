@@ -79,8 +79,17 @@ class ComboInterface : public QAccessibleWidget {
   QComboBox& combo_;
 };
 
+// To Qt a plain widget is nothing, on its own too.
+bool isForm(const QObject& object) {
+  return object.metaObject() == &QWidget::staticMetaObject &&
+         static_cast<const QWidget&>(object).isWindow();
+}
+
 QAccessibleInterface* describe(const QString&, QObject* object) {
   if (auto* combo = qobject_cast<QComboBox*>(object)) return new ComboInterface(*combo);
+  if (isForm(*object)) {
+    return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Window);
+  }
   auto* label = qobject_cast<QLabel*>(object);
   if (label == nullptr) return nullptr;
   const QVariant role = label->property("role");

@@ -90,7 +90,8 @@ bool TextView::filter(const QString& typed) {
 LineView::LineView(TextBox& control, QLineEdit& widget, const UserActions& actions)
     : TextView(control, widget, actions), widget_(widget) {
   if (control.isMasked()) widget.setEchoMode(QLineEdit::Password);
-  connect(&widget, &QLineEdit::textEdited, this, [this] { take(); });
+  // Not only what keys do: assistive technology puts texts in.
+  connect(&widget, &QLineEdit::textChanged, this, [this] { take(); });
 }
 
 QString LineView::shownText() const { return widget_.text(); }
@@ -100,6 +101,7 @@ QString LineView::forWidget(const std::string& text) const { return toQt(text); 
 std::string LineView::forPanel(const QString& text) const { return singleLine(fromQt(text)); }
 
 void LineView::setShownText(const QString& text) {
+  const QSignalBlocker quiet(widget_);
   const int position = widget_.cursorPosition();
   widget_.setText(
       text);  // which leaves the cursor at the end, where keys go in a box not typed into
@@ -107,16 +109,18 @@ void LineView::setShownText(const QString& text) {
 }
 
 void LineView::insert(const QString& text) {
-  if (text.isEmpty()) return;
-  widget_.insert(text);
-  take();  // Qt doesn't call this an edit by the user
+  if (!text.isEmpty()) widget_.insert(text);
 }
 
 int LineView::caret() const { return widget_.cursorPosition(); }
 
 void LineView::setCaret(int position) { widget_.setCursorPosition(position); }
 
-void LineView::setLimit(int length) { widget_.setMaxLength(length > 0 ? length : kNoLimit); }
+// Qt cuts off what is beyond the limit, which is no edit by the user.
+void LineView::setLimit(int length) {
+  const QSignalBlocker quiet(widget_);
+  widget_.setMaxLength(length > 0 ? length : kNoLimit);
+}
 
 LinesView::LinesView(TextBox& control, QPlainTextEdit& widget, const UserActions& actions)
     : TextView(control, widget, actions), widget_(widget) {
