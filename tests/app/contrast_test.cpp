@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -86,23 +87,28 @@ bool canBe(const QWidget& widget, const State& state) {
   return !state.isFocused || (widget.focusPolicy() != Qt::NoFocus && widget.isEnabled());
 }
 
+constexpr QPoint kBeside(-1, -1);
+
+// Buttons and what has parts want to know where it is.
+void pointAt(QWidget& widget, const QPoint& place) {
+  widget.setAttribute(Qt::WA_UnderMouse, widget.rect().contains(place));
+  const QPoint onScreen = widget.mapToGlobal(place);
+  QMouseEvent move(QEvent::MouseMove, place, onScreen, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(&widget, &move);
+  QHoverEvent hover(QEvent::HoverMove, place, onScreen, place);
+  QApplication::sendEvent(&widget, &hover);
+}
+
 void put(QWidget& widget, const State& state) {
   if (state.isFocused) widget.setFocus();
   if (!state.isFocused) widget.clearFocus();
-  widget.setAttribute(Qt::WA_UnderMouse, state.isHovered);
+  pointAt(widget, state.isHovered ? widget.rect().center() : kBeside);
   auto* button = qobject_cast<QPushButton*>(&widget);
   if (button != nullptr) button->setDown(state.isPressed);
   const bool wasBusy = widget.property("busy").isValid();
   if (state.isBusy == wasBusy) return;
   widget.setProperty("busy", state.isBusy ? QVariant(true) : QVariant());
   polishAnew(widget);
-}
-
-// What has parts shows the one under the pointer.
-void pointAt(QWidget& widget, const QPoint& place) {
-  widget.setAttribute(Qt::WA_UnderMouse, widget.rect().contains(place));
-  QHoverEvent event(QEvent::HoverMove, place, widget.mapToGlobal(place), place);
-  QApplication::sendEvent(&widget, &event);
 }
 
 // As large as it has to be for all of its pages to be on view.
@@ -185,7 +191,7 @@ TEST_F(ContrastTest, OfEveryTab) {
         look("one of the others");
         pointAt(*strip, words.center());
         look("under the pointer");
-        pointAt(*strip, {-1, -1});
+        pointAt(*strip, kBeside);
         strip->setCurrentIndex(tab);
         look("on view");
         strip->setFocus();
@@ -206,7 +212,7 @@ TEST_F(ContrastTest, OfEveryRow) {
       const QRect row = list->visualItemRect(list->item(0)).translated(list->viewport()->pos());
       pointAt(*list->viewport(), list->visualItemRect(list->item(0)).center());
       EXPECT_GE(measured(*list, row), kOfText) << nameOf(*list) << " under the pointer";
-      pointAt(*list->viewport(), {-1, -1});
+      pointAt(*list->viewport(), kBeside);
       list->setCurrentRow(0);
       for (const bool isFocused : {false, true}) {
         put(*list, {.isFocused = isFocused});

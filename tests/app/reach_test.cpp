@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QImage>
+#include <QLabel>
 #include <QLayout>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -159,6 +160,22 @@ TEST_F(ReachTest, EveryUsableControlHasARoleANameAndAState) {
     }
   });
   EXPECT_GT(seen, 200);
+}
+
+// To what has no words on it Qt gives those of the frame around it, which may hold several.
+TEST_F(ReachTest, EveryFieldHasANameOfItsOwn) {
+  int seen = 0;
+  forEachPage([&](QWidget&, const Widgets& usable) {
+    for (const QWidget* widget : usable) {
+      const bool hasWords = qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                            qobject_cast<const QLabel*>(widget) != nullptr ||
+                            qobject_cast<const QTabBar*>(widget) != nullptr;
+      if (hasWords) continue;
+      EXPECT_NE(widget->accessibleName().trimmed(), "") << nameOf(*widget);
+      ++seen;
+    }
+  });
+  EXPECT_GT(seen, 30);
 }
 
 TEST_F(ReachTest, EveryTabHasAName) {
