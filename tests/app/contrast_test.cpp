@@ -11,6 +11,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QMessageBox>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -20,6 +22,7 @@
 #include <QTabBar>
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -253,20 +256,38 @@ TEST_F(ContrastTest, OfWhatThePanelColours) {
   }
 }
 
+using Pictures = std::vector<std::pair<std::string, QImage>>;
+
+Pictures ofWhatIsNoForm() {
+  QLineEdit line("a line");
+  QComboBox combo;
+  combo.addItems({"one", "two"});
+  QMessageBox box;
+  box.setText("a message");
+  const std::unique_ptr<QMenu> menu(line.createStandardContextMenu());
+  Pictures taken;
+  for (QWidget* widget : {static_cast<QWidget*>(combo.view()), static_cast<QWidget*>(&box),
+                          static_cast<QWidget*>(menu.get())}) {
+    widget->resize(widget->sizeHint());
+    taken.emplace_back(widget->metaObject()->className(), widget->grab().toImage());
+  }
+  return taken;
+}
+
 // The colours are the program's own under every theme of the desktop.
 TEST_F(ContrastTest, ADarkDesktopChangesNothing) {
   const auto pictures = [this] {
-    std::vector<std::pair<std::string, QImage>> taken;
+    Pictures taken = ofWhatIsNoForm();
     forEachPage([&](QWidget& form, const std::vector<QWidget*>&) {
       taken.emplace_back(form.objectName().toStdString(), pictureOf(form, form.rect(), kScale));
     });
     return taken;
   };
   pictures();  // Qt draws some letters otherwise by a hair once they have been on view
-  const auto usual = pictures();
+  const Pictures usual = pictures();
   QApplication::setPalette(QPalette(QColor(0x20, 0x20, 0x20)));
   dressApplication();
-  const auto dark = pictures();
+  const Pictures dark = pictures();
   constexpr double kHair = 1.2;
   ASSERT_EQ(dark.size(), usual.size());
   for (std::size_t page = 0; page < usual.size(); ++page) {
