@@ -1,5 +1,6 @@
 // Every text that is there to be read stands out from its ground, in each state that it may be in.
-// What is out of reach is left out, as usual: that it is pale says so.
+// What is out of reach is left out, as usual: that it is pale says so. What is marked in a box is
+// not looked at; it has the colours of a picked row.
 
 #include <gtest/gtest.h>
 

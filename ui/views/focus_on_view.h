@@ -5,8 +5,8 @@
 
 namespace gsm {
 
-/// Brings what gets the focus by a key on view, on a form whose pages scroll: Qt does so only for the
-/// Tab key within the pages, and not when it comes in from beside them, nor for the arrows.
+/// Brings what gets the focus by a key on view, on a form whose pages scroll: Qt does so only for
+/// the Tab key within the pages, and not when it comes in from beside them, nor for the arrows.
 class FocusOnView : public QObject {
  public:
   /// `form` owns it.
