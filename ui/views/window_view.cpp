@@ -12,6 +12,7 @@
 #include "controls/simple_controls.h"
 #include "platform/qt/text_codec.h"
 #include "ui/views/decorations.h"
+#include "ui/views/focus_on_view.h"
 #include "ui/views/look.h"
 #include "ui/views/picture_painter.h"
 
@@ -95,6 +96,7 @@ void WindowView::makeForm() {
   bindControls();
   bindKeys();
   new Decorations(*form_, window_.platform());
+  new FocusOnView(*form_);
   for (const PropertyBase* property : window_.properties()) {
     if (property->id() != PropertyId::Visible) show(property->id());
   }
