@@ -12,8 +12,10 @@
 #include "controls/simple_controls.h"
 #include "platform/qt/text_codec.h"
 #include "ui/views/decorations.h"
+#include "ui/views/letters.h"
 #include "ui/views/look.h"
 #include "ui/views/picture_painter.h"
+#include "ui/views/screen_room.h"
 
 namespace gsm {
 namespace {
@@ -87,6 +89,7 @@ QWidget& WindowView::form() {
 
 void WindowView::makeForm() {
   form_ = makeForm_();
+  growWithLetters(*form_, growthOfLetters());
   order_.add(*form_);
   if (window_.design().Notice) makeNotice(*form_);
   form_->setProperty(kAsks, window_.design().Asks);
@@ -239,7 +242,7 @@ void WindowView::goAway() {
 }
 
 // Where the user left it; at first over the window that the user has before him, no larger than the
-// screen.
+// screen, on which all of it can be reached.
 void WindowView::place() {
   if (window_.Centred.peek()) return centreIfAsked();
   if (form_->isMaximized()) return;
@@ -253,6 +256,7 @@ void WindowView::place() {
   const QWidget* below = order_.lastOnView(*form_);
   form_->ensurePolished();
   const QSize room = form_->screen()->availableGeometry().size() - frameOf(below);
+  fitInto(*form_, room);
   form_->resize(form_->size().boundedTo(room));
   if (below != nullptr) {
     centreOver(below->frameGeometry());
