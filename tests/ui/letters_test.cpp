@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QFontInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -32,7 +31,7 @@ class LettersTest : public FormTest {
 
   static int pointsOf(QWidget& widget) {
     widget.ensurePolished();
-    return QFontInfo(widget.font()).pointSize();
+    return widget.font().pointSize();
   }
 
  private:

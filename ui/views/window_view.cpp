@@ -15,6 +15,7 @@
 #include "ui/views/letters.h"
 #include "ui/views/look.h"
 #include "ui/views/picture_painter.h"
+#include "ui/views/quiet_windows.h"
 #include "ui/views/screen_room.h"
 
 namespace gsm {
@@ -33,13 +34,6 @@ Qt::WindowStates qtState(int state) {
 int panelState(Qt::WindowStates states) {
   if (states.testFlag(Qt::WindowMinimized)) return WindowState::minimised;
   return states.testFlag(Qt::WindowMaximized) ? WindowState::maximised : WindowState::normal;
-}
-
-// Windows of the kind come and go by themselves: they have no frame to take them by, and what the
-// user does goes through them.
-void makeNotice(QWidget& form) {
-  form.setWindowFlags(form.windowFlags() | Qt::FramelessWindowHint | Qt::WindowTransparentForInput |
-                      Qt::WindowDoesNotAcceptFocus);
 }
 
 // What a desktop draws around a window, by one that is up already.
@@ -210,6 +204,8 @@ void WindowView::comeUp() {
     form_->setWindowState(form_->windowState() & ~Qt::WindowMinimized);
   }
   if (window_.design().Asks && form_->isHidden()) pointer_.ask(this);
+  if (window_.design().Notice) tieNotice(*form_, order_.lastOnView(*form_));
+  if (window_.design().Quiet && form_->isHidden()) takeKeysUnused(*form_);
   form_->show();
   bringToFront(isElsewhere);
   if (takesKeyboard && !form_->isMinimized()) form_->activateWindow();
@@ -311,6 +307,8 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
   switch (event->type()) {
     case QEvent::Close:
       event->ignore();
+      // With the window that it belongs to, and not by its user.
+      if (window_.design().Notice && givesKeyboardToWhatComesUp()) return true;
       actions_.post(*form_,
                     [this, veil = std::make_shared<Veil>(*form_)] { return window_.userClose(); });
       return true;
