@@ -6,6 +6,8 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <cstdlib>
+#include <string>
 
 #include "controls/controls.h"
 #include "tests/support/desktop/desktop_fixture.h"
@@ -52,6 +54,14 @@ TEST_F(LettersTest, AreTheDesktopsWhereThoseAreLarge) {
   status.setProperty("role", "status");
   EXPECT_EQ(pointsOf(put<QLabel>("Label1")), 20);
   EXPECT_EQ(pointsOf(status), 22);
+}
+
+// On a desktop that the surroundings say the letters of.
+TEST_F(LettersTest, AreThoseThatTheDesktopSays) {
+  const char* points = std::getenv("GSM_DESKTOP_LETTERS");
+  if (points == nullptr) GTEST_SKIP() << "nobody says";
+  EXPECT_EQ(QApplication::font().pointSize(), std::stoi(points));
+  EXPECT_EQ(pointsOf(put<QLabel>("Label1")), std::stoi(points));
 }
 
 TEST_F(LettersTest, GrowWithTheSignsOnKeysAndTheRoomAboveGroups) {
