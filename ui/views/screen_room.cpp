@@ -36,9 +36,11 @@ void bringIntoSight(QScrollArea& scroller) {
 // Wherever the focus goes by keys or by the panel's will. By a click it goes to what is in sight,
 // and that must not move under the mouse. Pages within the window that scroll too do so first.
 void followFocus(QScrollArea& scroller) {
-  QObject::connect(qApp, &QApplication::focusChanged, &scroller, [&scroller] {
-    if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
-    QTimer::singleShot(0, &scroller, [&scroller] { bringIntoSight(scroller); });
+  auto* const later = new QTimer(&scroller);
+  later->setSingleShot(true);
+  QObject::connect(later, &QTimer::timeout, [&scroller] { bringIntoSight(scroller); });
+  QObject::connect(qApp, &QApplication::focusChanged, later, [later] {
+    if (QGuiApplication::mouseButtons() == Qt::NoButton) later->start(0);
   });
 }
 
