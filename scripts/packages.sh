@@ -9,3 +9,4 @@ package_packages=(cmark-gfm dpkg-dev lintian desktop-file-utils appstream man-db
 picture_packages=("${screen_packages[@]}" pngquant)
 access_packages=("${screen_packages[@]}" at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi)
 acting_packages=("${access_packages[@]}" openbox)
+desktop_check_packages=("${screen_packages[@]}" qt6-wayland weston)

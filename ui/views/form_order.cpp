@@ -7,7 +7,11 @@
 namespace gsm {
 namespace {
 
-bool isOnView(const QWidget& form) { return form.isVisible() && !form.isMinimized(); }
+// A notice is over before anybody could work with it.
+bool isOnView(const QWidget& form) {
+  return form.isVisible() && !form.isMinimized() &&
+         !form.windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus);
+}
 
 }  // namespace
 

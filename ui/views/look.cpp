@@ -11,6 +11,7 @@
 
 #include "ui/forms.h"
 #include "ui/views/accessibility.h"
+#include "ui/views/letters.h"
 
 namespace gsm {
 namespace {
@@ -35,6 +36,13 @@ QPalette lightPalette() {
 
 }  // namespace
 
+void takeDesktopsLetters() {
+  QFile style(":/style.qss");
+  if (!style.open(QIODevice::ReadOnly)) return;
+  const QString sheet = QString::fromUtf8(style.readAll());
+  qApp->setStyleSheet(grownWithLetters(sheet, growthOfLetters()));
+}
+
 void dressApplication() {
   ui::initResources();
   QApplication::setStyle(QStyleFactory::create("Fusion"));
@@ -48,9 +56,7 @@ void dressApplication() {
   QObject::connect(later, &QTimer::timeout,
                    [] { QApplication::setWindowIcon(QIcon(":/icons/gsm-application.svg")); });
   later->start(kLittleLater);
-  if (QFile style(":/style.qss"); style.open(QIODevice::ReadOnly)) {
-    qApp->setStyleSheet(QString::fromUtf8(style.readAll()));
-  }
+  takeDesktopsLetters();
 }
 
 }  // namespace gsm

@@ -13,8 +13,11 @@
 #include "platform/qt/text_codec.h"
 #include "ui/views/decorations.h"
 #include "ui/views/focus_on_view.h"
+#include "ui/views/letters.h"
 #include "ui/views/look.h"
 #include "ui/views/picture_painter.h"
+#include "ui/views/quiet_windows.h"
+#include "ui/views/screen_room.h"
 
 namespace gsm {
 namespace {
@@ -32,13 +35,6 @@ Qt::WindowStates qtState(int state) {
 int panelState(Qt::WindowStates states) {
   if (states.testFlag(Qt::WindowMinimized)) return WindowState::minimised;
   return states.testFlag(Qt::WindowMaximized) ? WindowState::maximised : WindowState::normal;
-}
-
-// Windows of the kind come and go by themselves: they have no frame to take them by, and what the
-// user does goes through them.
-void makeNotice(QWidget& form) {
-  form.setWindowFlags(form.windowFlags() | Qt::FramelessWindowHint | Qt::WindowTransparentForInput |
-                      Qt::WindowDoesNotAcceptFocus);
 }
 
 // What a desktop draws around a window, by one that is up already.
@@ -88,6 +84,7 @@ QWidget& WindowView::form() {
 
 void WindowView::makeForm() {
   form_ = makeForm_();
+  growWithLetters(*form_, growthOfLetters());
   order_.add(*form_);
   if (window_.design().Notice) makeNotice(*form_);
   form_->setProperty(kAsks, window_.design().Asks);
@@ -209,6 +206,8 @@ void WindowView::comeUp() {
     form_->setWindowState(form_->windowState() & ~Qt::WindowMinimized);
   }
   if (window_.design().Asks && form_->isHidden()) pointer_.ask(this);
+  if (window_.design().Notice) tieNotice(*form_, order_.lastOnView(*form_));
+  if (window_.design().Quiet && form_->isHidden()) takeKeysUnused(*form_);
   form_->show();
   bringToFront(isElsewhere);
   if (takesKeyboard && !form_->isMinimized()) form_->activateWindow();
@@ -241,7 +240,7 @@ void WindowView::goAway() {
 }
 
 // Where the user left it; at first over the window that the user has before him, no larger than the
-// screen.
+// screen, on which all of it can be reached.
 void WindowView::place() {
   if (window_.Centred.peek()) return centreIfAsked();
   if (form_->isMaximized()) return;
@@ -255,6 +254,7 @@ void WindowView::place() {
   const QWidget* below = order_.lastOnView(*form_);
   form_->ensurePolished();
   const QSize room = form_->screen()->availableGeometry().size() - frameOf(below);
+  fitInto(*form_, room);
   form_->resize(form_->size().boundedTo(room));
   if (below != nullptr) {
     centreOver(below->frameGeometry());
@@ -309,6 +309,8 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
   switch (event->type()) {
     case QEvent::Close:
       event->ignore();
+      // With the window that it belongs to, and not by its user.
+      if (window_.design().Notice && givesKeyboardToWhatComesUp()) return true;
       actions_.post(*form_,
                     [this, veil = std::make_shared<Veil>(*form_)] { return window_.userClose(); });
       return true;
