@@ -10,6 +10,7 @@
 
 #include "controls/controls.h"
 #include "tests/support/desktop/desktop_fixture.h"
+#include "ui/views/focus_on_view.h"
 
 namespace gsm {
 namespace {
@@ -24,6 +25,7 @@ class ScreenRoomTest : public FormTest {
       row->addWidget(field);
     }
     hidden_.hide();
+    new FocusOnView(form());
   }
 
   bool isInSight(const QWidget& widget) {

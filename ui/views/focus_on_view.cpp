@@ -18,21 +18,20 @@ void bringOnView(QScrollArea& area, const QWidget& widget) {
 }  // namespace
 
 FocusOnView::FocusOnView(QWidget& form) : QObject(&form) {
-  for (const QScrollArea* area : form.findChildren<QScrollArea*>()) {
-    for (QWidget* widget : area->widget()->findChildren<QWidget*>()) {
-      if (widget->focusPolicy() != Qt::NoFocus) widget->installEventFilter(this);
-    }
+  for (QWidget* widget : form.findChildren<QWidget*>()) {
+    if (widget->focusPolicy() != Qt::NoFocus) widget->installEventFilter(this);
   }
 }
 
-// Not for the mouse, which must find below it what it was pressed on.
+// Not for the mouse, which must find below it what it was pressed on; nor where the user has
+// scrolled away and comes back to the window.
 bool FocusOnView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::FocusIn) return false;
   const Qt::FocusReason reason = static_cast<const QFocusEvent*>(event)->reason();
-  const bool isByKey = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                       reason == Qt::ShortcutFocusReason;
+  const bool isMove = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                      reason == Qt::ShortcutFocusReason || reason == Qt::OtherFocusReason;
   const auto* widget = qobject_cast<const QWidget*>(watched);
-  if (!isByKey || widget == nullptr) return false;
+  if (!isMove || widget == nullptr) return false;
   for (QWidget* part = widget->parentWidget(); part != nullptr; part = part->parentWidget()) {
     if (auto* area = qobject_cast<QScrollArea*>(part)) bringOnView(*area, *widget);
   }

@@ -5,8 +5,9 @@
 
 namespace gsm {
 
-/// Brings what gets the focus by a key on view, on a form whose pages scroll: Qt does so only for
-/// the Tab key within the pages, and not when it comes in from beside them, nor for the arrows.
+/// Brings what gets the focus on view, where pages of a form scroll or the whole of it: Qt does so
+/// only for the Tab key within what scrolls, and not when it comes in from beside it, nor for the
+/// arrows or when the panel gives the focus.
 class FocusOnView : public QObject {
  public:
   /// `form` owns it.

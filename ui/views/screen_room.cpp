@@ -1,10 +1,8 @@
 #include "ui/views/screen_room.h"
 
-#include <QApplication>
 #include <QLayout>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace gsm {
@@ -21,27 +19,6 @@ QWidget* takeContent(QWidget& form) {
   content->setLayout(form.layout());
   content->setMinimumSize(form.minimumSize());
   return content;
-}
-
-// The whole of it, where Qt by itself shows no more than the cursor in a field.
-void bringIntoSight(QScrollArea& scroller) {
-  const QWidget* focus = QApplication::focusWidget();
-  if (focus == nullptr || !scroller.isAncestorOf(focus)) return;
-  constexpr int kAround = 8;
-  const QPoint middle = focus->mapTo(scroller.widget(), focus->rect().center());
-  scroller.ensureVisible(middle.x(), middle.y(), focus->width() / 2 + kAround,
-                         focus->height() / 2 + kAround);
-}
-
-// Wherever the focus goes by keys or by the panel's will. By a click it goes to what is in sight,
-// and that must not move under the mouse. Pages within the window that scroll too do so first.
-void followFocus(QScrollArea& scroller) {
-  auto* const later = new QTimer(&scroller);
-  later->setSingleShot(true);
-  QObject::connect(later, &QTimer::timeout, [&scroller] { bringIntoSight(scroller); });
-  QObject::connect(qApp, &QApplication::focusChanged, later, [later] {
-    if (QGuiApplication::mouseButtons() == Qt::NoButton) later->start(0);
-  });
 }
 
 }  // namespace
@@ -61,7 +38,6 @@ void fitInto(QWidget& form, const QSize& room) {
   auto* layout = new QVBoxLayout(&form);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(scroller);
-  followFocus(*scroller);
   form.setMinimumSize(0, 0);
   form.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
   // What scrolls one way takes a bar's room the other way.
