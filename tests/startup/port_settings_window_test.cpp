@@ -94,6 +94,21 @@ TEST_F(PortSettingsWindow, SaysThatItScansAndShowsTheHourglassMeanwhile) {
   }
 }
 
+TEST_F(PortSettingsWindow, LetsWhatWaitsHappenOnTheClosedPortBeforeItComesUp) {
+  startWith({{.number = 3}});
+  setLine(3, "9600,n,8,1", 0, true);
+  world().time().after(Duration::zero(), [this] { form1().Command7.userClick(); });
+  int happened = 0;
+  inPanel([&] {
+    ++happened;
+    EXPECT_FALSE(form1().MSComm1.PortOpen);
+    EXPECT_FALSE(window().isLoaded());
+  });
+  run(0);
+  EXPECT_EQ(happened, 1);
+  EXPECT_TRUE(window().isLoaded());
+}
+
 struct ShownPortRow {
   std::string name;
   std::vector<HeadlessPorts::Port> ports;

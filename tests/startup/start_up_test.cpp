@@ -153,6 +153,18 @@ TEST_F(StartUp, ASilentSavedPortStartsTheSweepOfAllPorts) {
   EXPECT_EQ(sent(), (Texts{"AT+CGSN\r", "AT+CGSN\r"}));
 }
 
+TEST_F(StartUp, ASilentSavedPortIsClosedBeforeTheOthersAreLookedFor) {
+  layComFile("9600,N,8,1 3\r\n");
+  start();
+  run(1);
+  EXPECT_TRUE(form1().MSComm1.PortOpen);
+  machine().ports.set({});
+  settle();
+  EXPECT_EQ(boxes(), Texts{"No Comm Ports Present"});
+  EXPECT_FALSE(form1().MSComm1.PortOpen);
+  EXPECT_EQ(log(), Texts{kWelcome});
+}
+
 TEST_F(StartUp, AReplyWithoutOkIsSilence) {
   layComFile("9600,N,8,1 3\r\n");
   start();
@@ -201,9 +213,11 @@ TEST_F(StartUp, APortHeldByAnotherProgramStartsTheSweepOfTheOthers) {
   layComFile("9600,N,8,1 3\r\n");
   start({.ports = {{.number = 3, .held = true}, {.number = 4}}, .modemPort = 4, .modemSpeed = 600});
   reply("AT+CGSN", kImeiReply);
+  reply("AT", kOk);
   settle();
   Texts lines = searchLog(2);
   lines.insert(lines.begin(), "Port Selected Already Open in Other Application");
+  lines.emplace_back("Check SIM PIN");
   expectLogBegins(lines);
   EXPECT_EQ(portNumber(), "Port 4");
   EXPECT_EQ(boxes(), Texts{""});  // the sweep has skipped the port as well
