@@ -109,6 +109,15 @@ TEST_F(PortSettingsWindow, LetsWhatWaitsHappenOnTheClosedPortBeforeItComesUp) {
   EXPECT_TRUE(window().isLoaded());
 }
 
+TEST_F(PortSettingsWindow, OfAClosedPortComesUpBeforeWhatWaits) {
+  startWith({{.number = 3}});
+  world().time().after(Duration::zero(), [this] { form1().Command7.userClick(); });
+  bool wasLoaded = false;
+  inPanel([&] { wasLoaded = window().isLoaded(); });
+  run(0);
+  EXPECT_TRUE(wasLoaded);
+}
+
 struct ShownPortRow {
   std::string name;
   std::vector<HeadlessPorts::Port> ports;
