@@ -122,6 +122,21 @@ TEST_P(Contract, WaitsAsLongAsItSaysWhenTheModemIsSilent) {
   expectGoesOn();
 }
 
+// As on a line so slow that a wait is over before its command has gone.
+TEST_P(Contract, WaitsNoLongerThanItSaysWhenNoSendEventComes) {
+  open();
+  inPanel([this] { form1().MSComm1.SThreshold = 0; });
+  run(0);
+  const double begin = now();
+  press();
+  ASSERT_TRUE(pressed_);
+  settle();
+  double seconds = 0;
+  for (const float pause : GetParam().pauses) seconds += pause;
+  EXPECT_NEAR(now() - begin, seconds, 0.1 * static_cast<double>(GetParam().pauses.size()));
+  expectGoesOn();
+}
+
 TEST_P(Contract, EndsAsItSaysWhenThePortIsClosed) {
   open();
   inPanel([this] { form1().MSComm1.PortOpen = false; });

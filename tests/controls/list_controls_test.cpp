@@ -181,6 +181,34 @@ TEST_F(ListControlsTest, ItemsMayHaveTips) {
   EXPECT_EQ(window.List1.ItemTips.get(), Items());
 }
 
+TEST_F(ListControlsTest, ARemovedItemTakesTheSelectionAlongAndRunsNoClick) {
+  window.List1.ListIndex = 2;
+  takeNotes();
+  window.List1.RemoveItem(3);
+  EXPECT_EQ(window.List1.ListIndex.get(), 2);
+  window.List1.RemoveItem(0);
+  EXPECT_EQ(window.List1.ListIndex.get(), 1) << "on the same item";
+  window.List1.RemoveItem(1);
+  EXPECT_EQ(window.List1.ListIndex.get(), -1);
+  window.List1.RemoveItem(0);
+  EXPECT_EQ(window.List1.ListIndex.get(), -1);
+  EXPECT_EQ(window.List1.List.get(), Items());
+  EXPECT_EQ(takeNotes(), Notes());
+}
+
+TEST_F(ListControlsTest, ARemovedItemTakesItsTipAlong) {
+  window.List1.Clear();
+  window.List1.AddItem("3", "/dev/ttyS2");
+  window.List1.AddItem("5", "/dev/ttyUSB0");
+  window.List1.RemoveItem(0);
+  EXPECT_EQ(window.List1.ItemTips.get(), Items({"/dev/ttyUSB0"}));
+}
+
+TEST_F(ListControlsTest, WhatIsNotThereCantBeRemoved) {
+  for (const int index : {-1, 4}) EXPECT_THROW(window.List1.RemoveItem(index), RuntimeFailure);
+  EXPECT_EQ(window.List1.ListCount(), 4);
+}
+
 TEST_F(ListControlsTest, AFailureInAClickRunByCodeEndsTheHandlerThatSetTheIndexToo) {
   window.List1.Click = [] { throw failure::typeMismatch(); };
   now([this] {

@@ -137,6 +137,29 @@ INSTANTIATE_TEST_SUITE_P(
                       TextRow{"OfACodeThatNobodyHasAskedFor", "AT+CPIN=1234\r\r\nERROR\r\n"}),
     RowName());
 
+class FailingReader : public RoutingOrder, public ::testing::WithParamInterface<TextRow> {};
+
+// A reader that traps its own failure ends alone: the routing goes on to the tests after it.
+TEST_P(FailingReader, LeavesARingBesideItToBeHeard) {
+  route(GetParam().text);
+  EXPECT_EQ(transcript(), GetParam().text);
+  clearTranscript();
+  route(GetParam().text + "\r\nRING\r\n");
+  EXPECT_TRUE(ringHeard());
+  EXPECT_EQ(transcript(), "");
+  EXPECT_EQ(boxes(), Texts{});
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, FailingReader,
+                         ::testing::Values(TextRow{"OfAMakerThatIsOkAlone", "ATI0\r\r\nOK\r\n"},
+                                           TextRow{"OfARevisionThatIsOkAlone", "ATI3\r\r\nOK\r\n"},
+                                           TextRow{"OfAPhoneBookWithoutItsFile",
+                                                   "AT+CPBS?\r\r\nOK\r\n"},
+                                           TextRow{"OfEchoValuesWithoutAComma", "\r\n+ECHO: 0\r\n"},
+                                           TextRow{"OfAServiceCentreWithoutAComma",
+                                                   "AT+CSCA?\r\r\n+CSCA: \"+336\"\r\n\r\nOK\r\n"}),
+                         RowName());
+
 class LastTest : public RoutingOrder, public ::testing::WithParamInterface<TextRow> {};
 
 TEST_P(LastTest, KeepsTheTranscript) {

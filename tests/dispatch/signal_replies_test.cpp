@@ -70,7 +70,10 @@ INSTANTIATE_TEST_SUITE_P(Rows, SignalOutsideTheTable,
                          ::testing::Values(LineRow{"ThirtyTwo", "+CSQ: 32,0"},
                                            LineRow{"NinetyEight", "+CSQ: 98,0"},
                                            LineRow{"AHundred", "+CSQ: 100,0"},
-                                           LineRow{"MinusOne", "+CSQ: -1,0"}),
+                                           LineRow{"MinusOne", "+CSQ: -1,0"},
+                                           LineRow{"BetweenTheFirstTwo", "+CSQ: 0.5,0"},
+                                           LineRow{"BetweenTheSecondAndThird", "+CSQ: 1.5,0"},
+                                           LineRow{"BetweenThirtyAndThirtyOne", "+CSQ: 30.5,0"}),
                          RowName());
 
 struct RegistrationRow {

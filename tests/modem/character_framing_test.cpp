@@ -199,7 +199,8 @@ INSTANTIATE_TEST_SUITE_P(
                       FramingRow{"UnknownFormat", "+ICF:7,4 +IFC:2,2", "", 0, 12},
                       FramingRow{"WithTheBlankIsNothing", "+ICF: 3,4", "", 0, 0},
                       FramingRow{"CutIsNothing", "+ICF:", "", 0, 0},
-                      FramingRow{"WithoutTheWordIsNothing", "+IFC:2,2", "", 0, 0}),
+                      FramingRow{"WithoutTheWordIsNothing", "+IFC:2,2", "", 0, 0},
+                      FramingRow{"WithoutTheWordAndTheEchoIsNothing", "\r\nQ:0 V:1", "", 0, 0}),
     RowName());
 
 }  // namespace

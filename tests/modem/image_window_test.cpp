@@ -12,14 +12,16 @@ namespace {
 // The small window that comes up now and then with advice about the signal.
 class ImageWindow : public OpenPortTest {
  protected:
-  void SetUp() override {
-    OpenPortTest::SetUp();
+  void SetUp() override { begin({2026, 3, 1, 0, 0, 0}); }
+  void TearDown() override { watch_.reset(); }
+
+  void begin(LocalTime clock) {
+    startWithOpenPort(clock);
     watch_ = std::make_unique<PropertyWatch>(panel().form20, [this](PropertyId property) {
       if (property != PropertyId::Visible) return;
       (panel().form20.Visible.peek() ? shown_ : hidden_).push_back(std::round(now() * 100) / 100);
     });
   }
-  void TearDown() override { watch_.reset(); }
 
   void enable() {
     inPanel([this] { panel().form20.Timer1.Enabled = true; });
@@ -63,6 +65,20 @@ TEST_F(ImageWindow, DropsTheTickThatComesWhileItIsStillUp) {
   run(200);
   EXPECT_EQ(shown_, (Times{50, 150, 200}));
   EXPECT_EQ(hidden_, (Times{111.5, 153}));
+}
+
+class ImageWindowAtMidnight : public ImageWindow {
+ protected:
+  void SetUp() override { begin({2026, 3, 1, 23, 59, 8}); }
+};
+
+TEST_F(ImageWindowAtMidnight, StaysUpUntilItsNextTickHasEnded) {
+  enable();
+  run(110);
+  EXPECT_EQ(shown_, (Times{50, 100}));  // the second time it is up already
+  EXPECT_EQ(hidden_, Times{103});
+  EXPECT_EQ(boxes(), std::vector<std::string>{});
+  EXPECT_FALSE(ended());
 }
 
 }  // namespace

@@ -288,5 +288,38 @@ INSTANTIATE_TEST_SUITE_P(Rows, ModemLostInTheMiddle,
                                       : kFull[row.param - kStartUp.size()].name;
                          });
 
+// A port that goes in the middle of a sequence, and what its caller does all the same.
+class SequenceCutOff : public HealthyModemTest {
+ protected:
+  // The port goes once `command` has been answered.
+  void loseThePortAfter(const std::string& command) {
+    bool isWritten = false;
+    while (!isWritten && now() < 120) {
+      run(0.01);
+      for (const std::string& text : sent()) isWritten = isWritten || text == command + "\r";
+    }
+    ASSERT_TRUE(isWritten);
+    run(0.1);
+    machine().ports.set({});
+    settle();
+  }
+};
+
+TEST_F(SequenceCutOff, IsClearedAwayByTheRoutingThatBeganIt) {
+  startUnlocked();
+  receive(unsolicited("+CPIN: READY"));
+  loseThePortAfter("AT+IPR?");  // whose reply the next row would leave
+  EXPECT_EQ(transcript(), "");
+  expectAtRest();
+}
+
+TEST_F(SequenceCutOff, NarrowsThePanelWithoutASim) {
+  startHealthy(kError);
+  loseThePortAfter("AT+WIND=0");
+  expectNoSim();
+  EXPECT_EQ(statusLine(), "");
+  expectAtRest();
+}
+
 }  // namespace
 }  // namespace gsm

@@ -30,15 +30,19 @@ TEST_F(Pin, AcceptedInitialisesTheModem) {
   expectNoCodeInTheLog({"1234"});
 }
 
-TEST_F(Pin, AcceptedClearsTheTranscriptBeforeTheSequence) {
+TEST_F(Pin, AcceptedHidesThePromptAndClearsTheTranscriptBeforeTheSequence) {
   answerCodes({kOk});
   std::string atItsStart = "never";
+  bool prompted = true;
   PropertyWatch watch(form1().Label5, [&](PropertyId) {
-    if (statusLine() == "Intializing Settings....") atItsStart = transcript();
+    if (statusLine() != "Intializing Settings....") return;
+    atItsStart = transcript();
+    prompted = prompt().Visible.peek();
   });
   enterPin("1234");
   settle();
   EXPECT_EQ(atItsStart, "");
+  EXPECT_FALSE(prompted);
 }
 
 TEST_F(Pin, AcceptedByAModemWithoutIdentityAndFramingLeavesTheWordsThatItRuns) {

@@ -37,15 +37,19 @@ TEST_F(Puk, AcceptedInitialisesTheModem) {
   expectNoCodeInTheLog({"12345678", "4321"});
 }
 
-TEST_F(Puk, AcceptedRunsTheSequenceBeforeTheTranscriptIsCleared) {
+TEST_F(Puk, AcceptedRunsTheSequenceBehindTheHiddenPromptBeforeTheTranscriptIsCleared) {
   answerCodes({kOk});
   std::string atItsStart = "never";
+  bool prompted = true;
   PropertyWatch watch(form1().Label5, [&](PropertyId) {
-    if (statusLine() == "Intializing Settings....") atItsStart = transcript();
+    if (statusLine() != "Intializing Settings....") return;
+    atItsStart = transcript();
+    prompted = prompt().Visible.peek();
   });
   enterPuk("12345678", "4321");
   settle();
   EXPECT_EQ(atItsStart, "AT+CPIN=12345678,4321\r\r\nOK\r\n");
+  EXPECT_FALSE(prompted);
 }
 
 TEST_F(Puk, RefusedFallsBackToThePinFormWhileThePanelStaysInItsMode) {

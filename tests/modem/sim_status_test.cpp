@@ -57,14 +57,16 @@ TEST_F(SimStatus, IsAskedOnlyAfterAnAnswerToTheFirstCommand) {
   expectAtRest();
 }
 
-TEST_F(SimStatus, ShowsThatTheUserShallWait) {
+TEST_F(SimStatus, ShowsThatTheUserShallWaitBeforeTheStatusWindow) {
   startHealthy();
   silence("AT");
   run(2.1);
   EXPECT_EQ(sent().back(), "AT\r");
   EXPECT_EQ(statusLine(), "Please Wait...");
+  EXPECT_FALSE(panel().form7.Visible.peek());
   run(2);
   EXPECT_EQ(statusLine(), "");
+  EXPECT_TRUE(panel().form7.Visible.peek());
 }
 
 TEST_F(SimStatus, ThatNeverComesLeavesThePanelLocked) {

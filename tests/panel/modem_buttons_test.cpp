@@ -221,12 +221,15 @@ struct ReportRow {
   std::string reply;
   bool answered;
   Report report;
+  bool echo = true;
 };
 class SmsButton : public ModemButton, public ::testing::WithParamInterface<ReportRow> {
  protected:
   // The button, with the report's state set to the other one before.
   void pressWith(Report before) {
-    GetParam().answered ? reply("AT+CNMI?", GetParam().reply) : silence("AT+CNMI?");
+    ModemScript::Rule rule = {.write = "AT+CNMI?\r", .echo = GetParam().echo};
+    if (GetParam().answered) rule.replies = {{{ModemScript::kDefaultDelay, GetParam().reply}}};
+    world().modem.add(rule);
     inPanel([this, before] {
       panel().form8.Label6.Caption = kBefore;
       (before == Report::enabled ? panel().form8.Option3 : panel().form8.Option4).Value = true;
@@ -270,7 +273,9 @@ INSTANTIATE_TEST_SUITE_P(
         ReportRow{"AnErrorBesideAValue", information("+CNMI: 0,1,0,1,0") + kError, true,
                   Report::disabled},
         ReportRow{"OkWithoutAValue", kOk, true, Report::asItWas},
-        ReportRow{"Silence", "", false, Report::asItWas}),
+        ReportRow{"Silence", "", false, Report::asItWas},
+        ReportRow{"OnAtTheVeryBeginning", "+CNMI: 0,1,0,1,0", true, Report::enabled, false},
+        ReportRow{"DigitsAlone", "111111111111111", true, Report::asItWas, false}),
     RowName());
 
 TEST_F(ModemButton, SmsWithThePortClosedEndsTheProgram) {

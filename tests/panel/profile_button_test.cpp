@@ -177,6 +177,26 @@ INSTANTIATE_TEST_SUITE_P(
                       ProfileRow{"TerminalInFrontOfCarrier", "&D:2 &C:1", {23, 25}}),
     RowName());
 
+class BareProfile : public ProfileButton, public ::testing::WithParamInterface<ProfileRow> {};
+
+// A modem with its echo off, whose words may stand at the very beginning.
+TEST_P(BareProfile, IsReadFromItsWordsAlone) {
+  world().modem.add({.write = "AT&V\r",
+                     .replies = {{{ModemScript::kDefaultDelay, GetParam().line}}},
+                     .echo = false});
+  press();
+  EXPECT_EQ(set(), GetParam().options);
+  expectOpened();
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, BareProfile,
+                         ::testing::Values(ProfileRow{"OfDigitsAlone", "\r\n10202021", {}},
+                                           ProfileRow{"OfTheFlowControl", "IFC:1,1", {14, 18}},
+                                           ProfileRow{"OfTheFraming", "+ICF:3,4", {4, 12}},
+                                           ProfileRow{"OfTheCarrier", "&C:1", {23}},
+                                           ProfileRow{"OfTheTerminal", "&D:0", {24}}),
+                         RowName());
+
 struct ProfileSpeedRow {
   std::string name;
   std::string line;

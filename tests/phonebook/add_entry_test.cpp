@@ -118,6 +118,19 @@ TEST_F(AddEntry, GoesBackOnlyWhenTheBoxIsAnswered) {
   expectBackAtCalls();
 }
 
+TEST_F(AddEntry, ToAFullBookGoesBackOnlyWhenTheBoxIsAnswered) {
+  openAdd("1", "1");
+  fill("", "", "113", "Al");
+  machine().boxes.setAnswer(HeadlessBoxes::Answer::hold);
+  click(form().Command1);
+  run(5);
+  EXPECT_TRUE(form().Visible.peek());
+  EXPECT_FALSE(calls().Visible.peek());
+  machine().boxes.answerTop();
+  settle();
+  expectBackAtCalls();
+}
+
 TEST_F(AddEntry, BeyondAFullBookIsRefusedTheSame) {
   openAdd("1", "5");
   fill("", "", "113", "Al");

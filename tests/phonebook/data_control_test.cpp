@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "phonebook/form3.h"
+#include "platform/sqlite/phone_book_file.h"
 #include "tests/support/phone_book_test.h"
 
 namespace gsm {
@@ -42,6 +43,16 @@ class RecordSource : public PhoneBookTest {
 TEST_F(RecordSource, IsTheTableOfTheDesign) {
   inPanel([this] { EXPECT_EQ(static_cast<const std::string&>(data().RecordSource), "DATA"); });
   run(0);
+}
+
+TEST_F(RecordSource, IsOpenedByItsFirstUseWhereTheLoadOfItsWindowCouldNot) {
+  inPanel([this] { calls().Unload(); });
+  run(0);
+  removeBook();
+  openCalls();
+  createPhoneBook(bookFile());
+  layEntries({{"1", "113", "THREE"}});
+  EXPECT_EQ(names(), Texts{"THREE"});
 }
 
 TEST_F(RecordSource, CountsFromTheNextRefreshOn) {

@@ -4,6 +4,7 @@
 
 #include "panel/form1.h"
 #include "phonebook/form3.h"
+#include "tests/support/rows.h"
 
 namespace gsm {
 namespace {
@@ -137,6 +138,34 @@ TEST_F(Download, TakesTheCarriageReturnAlongAfterAShortTotal) {
   EXPECT_EQ(storedCounts(), (BookRows{{"10\r", "1"}}));
 }
 
+struct CommaRow {
+  std::string name;
+  std::string text;  // in front of the reply to the counts
+  std::string total;
+};
+
+class DownloadBehindAComma : public Download, public ::testing::WithParamInterface<CommaRow> {};
+
+// The used count stands behind the memory's name, the total behind the first comma of all.
+TEST_P(DownloadBehindAComma, TakesTheTotalFromWhatFollowsIt) {
+  layEntries({{"1", "112", "OLD"}});
+  openCalls();
+  answerEmpty(1);
+  receive(GetParam().text + "AT+CPBS?\r" + information("+CPBS: \"SM\",1,100"));
+  settle();
+  EXPECT_EQ(used(), "1");
+  EXPECT_EQ(total(), GetParam().total);
+  EXPECT_EQ(storedCounts(), (BookRows{{GetParam().total, "1"}}));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, DownloadBehindAComma,
+    ::testing::Values(CommaRow{"WithoutAnother", "a,", "AT+"},
+                      CommaRow{"WithAnotherAfterASeventhCharacter", "a,1234567,89", ""},
+                      CommaRow{"WithAnotherBeyondTheEighth", "a,12345678,9", "123"},
+                      CommaRow{"WithAnotherBefore", "a,1234,5", "5AT"}),
+    RowName());
+
 TEST_F(Download, ReplacesWhatTheTablesHeld) {
   layEntries({{"1", "112", "OLD"}, {"2", "113", "OLDER"}});
   layCounts("50", "2");
@@ -173,6 +202,17 @@ TEST_F(Download, LosesAnEntryThatHoldsARoutingWord) {
   download();
   EXPECT_TRUE(polls());
   EXPECT_EQ(storedEntries(), (BookRows{{"2", "0146290802", "Two"}}));
+}
+
+TEST_F(Download, TakesTheStatusLineFromTheButtonThatOpensTheCallWindow) {
+  reply("AT", kOk);
+  answerCounts("0,100");
+  form1().Command2.Enabled = true;
+  click(form1().Command2);
+  run(2.1);
+  EXPECT_EQ(statusLine(), "Please Wait.......");
+  settle();
+  EXPECT_EQ(statusLine(), kSaving);
 }
 
 TEST_F(Download, LeavesTheStatusLineToTheClosingOfTheCallWindow) {

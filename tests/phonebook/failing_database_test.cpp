@@ -56,9 +56,13 @@ TEST_P(FailingDownload, KeepsWhatWasStored) {
   });
   run(0);
   failFromNow();
-  receive("AT+CPBS?\r" + information("+CPBS: \"SM\",1,150"));
+  const std::string reply = "AT+CPBS?\r" + information("+CPBS: \"SM\",1,150");
+  const std::string entry = "AT+CPBR=1\r" + information(entryLine(1, "0146290801", "One"));
+  receive(reply);
   settle();
   const int failed = GetParam();
+  // The transcript is cleared once the counts are stored, and after each entry.
+  EXPECT_EQ(transcript(), failed <= 9 ? reply : failed <= 14 ? entry : "");
   EXPECT_EQ(statusLine(), kSaving);
   const BookRows old{{"1", "111", "ONE"}, {"2", "112", "TWO"}};
   const BookRows none;

@@ -167,5 +167,34 @@ TEST_F(NewMessage, StatusReportChangesNothing) {
   EXPECT_FALSE(panel().form8.Visible.peek());
 }
 
+struct StampRow {
+  std::string name;
+  std::string report;
+  bool isRead;
+};
+
+class StatusReportStamp : public NewMessage, public ::testing::WithParamInterface<StampRow> {};
+
+// It is shown nowhere. But a report without one ends the routing, before the caret follows.
+TEST_P(StatusReportStamp, EndsTheRoutingWhereItCantBeRead) {
+  const std::string report = unsolicited("+CDS: " + GetParam().report);
+  route(report);
+  EXPECT_EQ(transcript(), report);
+  EXPECT_EQ(form1().Text1.SelStart.peek(), GetParam().isRead ? static_cast<int>(report.size()) : 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, StatusReportStamp,
+    ::testing::Values(
+        StampRow{"OfAModemsLineIsTheNumber", "2,116,\"+33146290800\",145,\"98/10/01\",0", true},
+        StampRow{"BetweenNoQuotes", "2,116", false},
+        StampRow{"BehindOneQuote", "2,116,\"+33146290800", false},
+        StampRow{"BetweenTheFirstTwoCharacters", "\"\"", true},
+        StampRow{"OfNineteenCharacters", "\"1234567890123456789\"", true},
+        StampRow{"OfTwentyCharacters", "\"12345678901234567890\"", false},
+        StampRow{"ThatEndsWithTheTwentyFifth", "2116\"1234567890123456789\"", true},
+        StampRow{"ThatEndsWithTheTwentySixth", "2,116\"1234567890123456789\"", false}),
+    RowName());
+
 }  // namespace
 }  // namespace gsm

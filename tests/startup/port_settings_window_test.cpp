@@ -94,6 +94,30 @@ TEST_F(PortSettingsWindow, SaysThatItScansAndShowsTheHourglassMeanwhile) {
   }
 }
 
+TEST_F(PortSettingsWindow, LetsWhatWaitsHappenOnTheClosedPortBeforeItComesUp) {
+  startWith({{.number = 3}});
+  setLine(3, "9600,n,8,1", 0, true);
+  world().time().after(Duration::zero(), [this] { form1().Command7.userClick(); });
+  int happened = 0;
+  inPanel([&] {
+    ++happened;
+    EXPECT_FALSE(form1().MSComm1.PortOpen);
+    EXPECT_FALSE(window().isLoaded());
+  });
+  run(0);
+  EXPECT_EQ(happened, 1);
+  EXPECT_TRUE(window().isLoaded());
+}
+
+TEST_F(PortSettingsWindow, OfAClosedPortComesUpBeforeWhatWaits) {
+  startWith({{.number = 3}});
+  world().time().after(Duration::zero(), [this] { form1().Command7.userClick(); });
+  bool wasLoaded = false;
+  inPanel([&] { wasLoaded = window().isLoaded(); });
+  run(0);
+  EXPECT_TRUE(wasLoaded);
+}
+
 struct ShownPortRow {
   std::string name;
   std::vector<HeadlessPorts::Port> ports;
@@ -214,23 +238,48 @@ TEST_F(PortSettingsWindow, EightDataBitsTakeTheSecondStopBitAwayAndSevenGiveItBa
   EXPECT_EQ(chosen(form.optStopBits), 1);
 }
 
-TEST_F(PortSettingsWindow, WithoutAControlSaysSo) {
+struct UselessControlRow {
+  std::string name;
+  bool isGiven;  // a label
+  std::string words;
+};
+class UselessControl : public PortSettingsWindow,
+                       public ::testing::WithParamInterface<UselessControlRow> {
+ protected:
+  void handOver() {
+    inPanel(
+        [this] { window().CommSettings(GetParam().isGiven ? &form1().Label1 : nullptr, "Title"); });
+    run(0);
+  }
+};
+
+TEST_P(UselessControl, IsReportedWithoutAWindow) {
   startWith({{.number = 3}});
-  inPanel([this] { window().CommSettings(nullptr, "Title"); });
-  settle();
-  expectBox("No serial communications control specified.", "GSM", BoxIcon::critical);
+  handOver();
+  expectBox(GetParam().words, "GSM", BoxIcon::critical);
   EXPECT_FALSE(window().isLoaded());
   EXPECT_FALSE(ended());
 }
 
-TEST_F(PortSettingsWindow, OfAnotherKindOfControlSaysSo) {
+TEST_P(UselessControl, ClosesTheWindowThatIsUpOnceTheBoxIsAnswered) {
   startWith({{.number = 3}});
-  inPanel([this] { window().CommSettings(&form1().Label1, "Title"); });
+  openWindow();
+  machine().boxes.setAnswer(HeadlessBoxes::Answer::hold);
+  handOver();
+  EXPECT_TRUE(window().isLoaded());
+  machine().boxes.answerTop();
   settle();
-  expectBox("Passed control is not a serial communications control.", "GSM", BoxIcon::critical);
   EXPECT_FALSE(window().isLoaded());
-  EXPECT_FALSE(ended());
+  EXPECT_EQ(waiting(), 0);
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, UselessControl,
+    ::testing::Values(UselessControlRow{"OfNothing", false,
+                                        "No serial communications control specified."},
+                      UselessControlRow{"OfAnotherKind", true,
+                                        "Passed control is not a serial communications control."}),
+    RowName());
 
 TEST_F(PortSettingsWindow, TakesTheTitleThatItIsGiven) {
   startWith({{.number = 3}});

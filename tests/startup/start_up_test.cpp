@@ -120,6 +120,52 @@ TEST_F(StartUp, SettingsThatChangedDuringTheWaitAreSetBack) {
   EXPECT_EQ(std::string(form1().MSComm1.Settings), "9600,N,8,1");
 }
 
+TEST_F(StartUp, SetsTheThresholdsAndTheModeOfThePort) {
+  start();
+  settle();
+  layComFile("9600,N,8,1 3\r\n");
+  inPanel([this] {
+    SerialControl& port = form1().MSComm1;
+    port.RThreshold = 7;
+    port.SThreshold = 0;
+    port.InputMode = 0;
+    form1().Form_Load();
+  });
+  run(1);
+  EXPECT_EQ(form1().MSComm1.RThreshold, 1);
+  EXPECT_EQ(form1().MSComm1.SThreshold, 1);
+  EXPECT_EQ(form1().MSComm1.InputMode, 1);
+}
+
+TEST_F(StartUp, ASweepAloneLeavesTheThresholdsAndTheModeAlone) {
+  start();
+  settle();
+  layComFile("\r\n");
+  inPanel([this] {
+    form1().MSComm1.RThreshold = 7;
+    form1().MSComm1.SThreshold = 2;
+    form1().MSComm1.InputMode = 0;
+    form1().Form_Load();
+  });
+  settle();
+  EXPECT_EQ(form1().MSComm1.RThreshold, 7);
+  EXPECT_EQ(form1().MSComm1.SThreshold, 2);
+  EXPECT_EQ(form1().MSComm1.InputMode, 0);
+}
+
+TEST_F(StartUp, ClosesAllFilesAtTheEndOfItsOwn) {
+  start({.ports = {}});
+  settle();
+  layComFile("");
+  inPanel([this] {
+    machine().files.openForOutput(3, "Model.txt");
+    form1().Form_Load();
+  });
+  run(0);
+  machine().files.openForInput(3, "Model.txt");  // fails where the number is still in use
+  EXPECT_EQ(machine().files.freeFile(), 1);
+}
+
 TEST_F(StartUp, AHitIsNotSavedAndLeavesNoFileOpen) {
   const std::string bytes = "9600,n,8,1 3 and more\nanother line";
   layComFile(bytes);
@@ -151,6 +197,18 @@ TEST_F(StartUp, ASilentSavedPortStartsTheSweepOfAllPorts) {
   EXPECT_EQ(form1().MSComm1.CommPort, 1);
   EXPECT_EQ(std::string(form1().MSComm1.Settings), "300,n,8,1");
   EXPECT_EQ(sent(), (Texts{"AT+CGSN\r", "AT+CGSN\r"}));
+}
+
+TEST_F(StartUp, ASilentSavedPortIsClosedBeforeTheOthersAreLookedFor) {
+  layComFile("9600,N,8,1 3\r\n");
+  start();
+  run(1);
+  EXPECT_TRUE(form1().MSComm1.PortOpen);
+  machine().ports.set({});
+  settle();
+  EXPECT_EQ(boxes(), Texts{"No Comm Ports Present"});
+  EXPECT_FALSE(form1().MSComm1.PortOpen);
+  EXPECT_EQ(log(), Texts{kWelcome});
 }
 
 TEST_F(StartUp, AReplyWithoutOkIsSilence) {
@@ -201,9 +259,11 @@ TEST_F(StartUp, APortHeldByAnotherProgramStartsTheSweepOfTheOthers) {
   layComFile("9600,N,8,1 3\r\n");
   start({.ports = {{.number = 3, .held = true}, {.number = 4}}, .modemPort = 4, .modemSpeed = 600});
   reply("AT+CGSN", kImeiReply);
+  reply("AT", kOk);
   settle();
   Texts lines = searchLog(2);
   lines.insert(lines.begin(), "Port Selected Already Open in Other Application");
+  lines.emplace_back("Check SIM PIN");
   expectLogBegins(lines);
   EXPECT_EQ(portNumber(), "Port 4");
   EXPECT_EQ(boxes(), Texts{""});  // the sweep has skipped the port as well

@@ -100,6 +100,15 @@ TEST_F(Sweep, TakesAnAnsweringModemAndTriesNoMore) {
   EXPECT_EQ(boxes(), Texts{});
 }
 
+TEST_F(Sweep, SetsSettingsThatChangedDuringTheWaitBack) {
+  startSweep({.modemSpeed = 300});
+  reply("AT+CGSN", kImeiReply);
+  inPanel([this] { form1().MSComm1.Settings = std::string("1200,n,8,1"); }, 1);
+  settle();
+  EXPECT_EQ(portSettings(), "300,N,8,1");
+  EXPECT_EQ(std::string(form1().MSComm1.Settings), "300,n,8,1");
+}
+
 TEST_F(Sweep, TakesAnyDeviceWhoseAnswerHoldsOk) {
   startSweep({});
   reply("AT+CGSN", "BOOK OF HOURS");
