@@ -146,6 +146,18 @@ TEST_F(FilesTest, TheNewFileTakesTheOldOnesPlaceAtTheClosing) {
   EXPECT_EQ(folder().read("out.txt"), "") << "nothing was written";
 }
 
+TEST_F(FilesTest, AFileThatCantTakeItsPlaceFailsTheClosingOfAllWhichCloseAllTheSame) {
+  files().openForOutput(1, "first.txt");
+  files().openForOutput(2, "second.txt");
+  files().openForOutput(3, "third.txt");
+  for (const int number : {1, 2, 3}) files().printLine(number, "new");
+  std::filesystem::create_directories(folder().path() / "first.txt" / "in its way");
+  std::filesystem::create_directories(folder().path() / "second.txt" / "in its way");
+  EXPECT_THROW(files().closeAll(), RuntimeFailure);
+  EXPECT_EQ(files().freeFile(), 1);
+  EXPECT_EQ(folder().read("third.txt"), "new\r\n");
+}
+
 TEST_F(FilesTest, TwoNumbersMayWriteOneFileAndTheLastClosedStays) {
   files().openForOutput(1, "out.txt");
   files().openForOutput(2, "out.txt");
