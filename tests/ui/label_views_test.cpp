@@ -56,6 +56,18 @@ TEST_F(LabelViewsTest, ShowWhatHandlersAssign) {
   EXPECT_FALSE(label_.isEnabled());
 }
 
+// Whose colour its text decides.
+TEST_F(LabelViewsTest, ABadgeLooksAsTheStyleSheetSaysOfItsText) {
+  const auto colour = [this] { return label_.palette().color(QPalette::WindowText); };
+  label_.setProperty("role", "badge");
+  form().setStyleSheet(R"(QLabel { color: #101010 } QLabel[text="Open"] { color: #0a4f5c })");
+  EXPECT_EQ(colour(), QColor(0x10, 0x10, 0x10));
+  window_.Label1.Caption = "Open";
+  EXPECT_EQ(colour(), QColor(0x0a, 0x4f, 0x5c));
+  window_.Label1.Caption = "";
+  EXPECT_EQ(colour(), QColor(0x10, 0x10, 0x10));
+}
+
 TEST_F(LabelViewsTest, ATextIsNeverMarkup) {
   window_.Label1.Caption = "<b>x</b>";
   EXPECT_EQ(label_.textFormat(), Qt::PlainText);

@@ -89,7 +89,8 @@ void LabelView::show(PropertyId property) {
 
 void LabelView::showCaption() {
   widget_.setText(withoutLineEnd(toQt(control_.Caption.peek())));
-  polishAnew(widget_);  // the style sheet may look at the text, and looks only when asked to
+  // The style sheet looks at the text of a badge, and looks only when asked to.
+  if (widget_.property("role") == "badge") polishAnew(widget_);
 }
 
 bool LabelView::eventFilter(QObject*, QEvent* event) {
