@@ -63,7 +63,12 @@ ComboView::ComboView(ComboBox& control, QComboBox& widget, const UserActions& ac
   // Typing selects no item, and no item finishes what is typed.
   widget.setCompleter(nullptr);
   widget.lineEdit()->disconnect(SIGNAL(editingFinished()), &widget);
-  connect(widget.lineEdit(), &QLineEdit::textEdited, this, [this] { takeTyping(); });
+  // Not only what keys do: assistive technology puts texts in. An item that is picked shows its
+  // own.
+  connect(widget.lineEdit(), &QLineEdit::textChanged, this, [this](const QString& text) {
+    const int item = widget_.currentIndex();
+    if (item < 0 || widget_.itemText(item) != text) takeTyping();
+  });
 }
 
 // Only the list itself tells that it is being opened, by whatever way.
@@ -101,6 +106,7 @@ void ComboView::takeTyping() {
 
 void ComboView::show(PropertyId property) {
   const QSignalBlocker quiet(widget_);
+  const QSignalBlocker quietEdit(widget_.lineEdit());
   if (property == PropertyId::List) showItems();
   if (property == PropertyId::ListIndex) showSelection();
   if (property == PropertyId::Text) showText();
