@@ -223,6 +223,30 @@ TEST_F(ListViewsTest, AnEditableComboTakesWhatAssistiveTechnologyPutsIn) {
   EXPECT_EQ(window_.Combo1.ListIndex.peek(), -1);
 }
 
+TEST_F(ListViewsTest, AnEditableComboCanBeEmptied) {
+  type(*combo_.lineEdit(), "x");
+  settle();
+  press(*combo_.lineEdit(), Qt::Key_Backspace);
+  settle();
+  EXPECT_EQ(window_.Combo1.Text.peek(), "");
+}
+
+TEST_F(ListViewsTest, WhatThePanelShowsInAnEditableComboIsNoEdit) {
+  window_.Combo1.Text = "other";
+  window_.Combo1.ListIndex = 1;
+  settle();
+  EXPECT_EQ(window_.Combo1.ListIndex.peek(), 1);
+}
+
+TEST_F(ListViewsTest, AnItemThatIsPickedFromAnEditableComboIsNoEdit) {
+  combo_.setCurrentIndex(2);
+  settle();
+  EXPECT_EQ(window_.Combo1.Text.peek(), "") << "the pick itself is still to be told";
+  emit combo_.activated(2);
+  settle();
+  EXPECT_EQ(window_.Combo1.ListIndex.peek(), 2);
+}
+
 TEST_F(ListViewsTest, AnEditableComboShowsWhatTheControlHolds) {
   combo_.lineEdit()->setText("1\rATD112;\r");
   settle();
