@@ -35,7 +35,7 @@ double lightnessOf(const QColor& colour) {
 }
 
 double contrastOf(const QColor& one, const QColor& other) {
-  const auto [less, more] = std::minmax(lightnessOf(one), lightnessOf(other));
+  const auto [less, more] = std::minmax({lightnessOf(one), lightnessOf(other)});
   return (more + 0.05) / (less + 0.05);
 }
 
