@@ -36,6 +36,8 @@ class LettersTest : public FormTest {
     return widget.font().pointSize();
   }
 
+  Window window_{platform(), "AnyWindow", {}};
+
  private:
   const QFont usual_ = QApplication::font();
 };
@@ -91,9 +93,8 @@ TEST_F(LettersTest, TakeWhatTheFormFixesWithThem) {
 
 TEST_F(LettersTest, GrowOnEveryWindow) {
   choose(20);
-  Window window(platform(), "AnyWindow", {});
   form().setMinimumSize(100, 50);
-  bind(window);
+  bind(window_);
   EXPECT_EQ(form().minimumSize(), QSize(200, 100));
 }
 

@@ -33,6 +33,8 @@ class ScreenRoomTest : public FormTest {
   }
   bool scrolls() { return form().findChild<QScrollArea*>() != nullptr; }
 
+  Window window_{platform(), "AnyWindow", {}};
+  TextBox text_{window_, "Text3"};
   QLineEdit& first_ = put<QLineEdit>("Text1");
   QLineEdit& hidden_ = put<QLineEdit>("Text2");
   QLineEdit& last_ = put<QLineEdit>("Text3");
@@ -105,12 +107,10 @@ TEST_F(ScreenRoomTest, OnceIsEnough) {
 TEST_F(ScreenRoomTest, AWindowIsFittedToItsScreen) {
   const QSize screen = QApplication::primaryScreen()->availableGeometry().size();
   last_.setMinimumWidth(screen.width());
-  Window window(platform(), "AnyWindow", {});
-  TextBox text(window, "Text3");
-  bind(window);
+  bind(window_);
   EXPECT_LE(form().width(), screen.width());
   EXPECT_TRUE(scrolls());
-  text.Text = "Registered";
+  text_.Text = "Registered";
   EXPECT_EQ(last_.text(), "Registered");
 }
 
