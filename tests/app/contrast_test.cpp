@@ -29,8 +29,8 @@
 #include <vector>
 
 #include "panel/form1.h"
-#include "tests/app/colour_contrast.h"
 #include "tests/app/form_pages.h"
+#include "tests/support/desktop/colour_contrast.h"
 #include "ui/views/look.h"
 #include "ui/views/screen_text.h"
 

@@ -15,8 +15,8 @@
 #include <memory>
 #include <set>
 
-#include "tests/app/colour_contrast.h"
 #include "tests/app/form_pages.h"
+#include "tests/support/desktop/colour_contrast.h"
 #include "ui/forms.h"
 
 namespace gsm {

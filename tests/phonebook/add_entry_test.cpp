@@ -38,6 +38,16 @@ class AddEntry : public PhoneBookTest {
     EXPECT_TRUE(calls().Visible.peek());
     EXPECT_FALSE(form().Visible.peek());
   }
+  void expectToGoBackOnceTheBoxIsAnswered() {
+    machine().boxes.setAnswer(HeadlessBoxes::Answer::hold);
+    click(form().Command1);
+    run(5);
+    EXPECT_TRUE(form().Visible.peek());
+    EXPECT_FALSE(calls().Visible.peek());
+    machine().boxes.answerTop();
+    settle();
+    expectBackAtCalls();
+  }
   void expectNothingAdded() {
     EXPECT_EQ(rows(), Texts{"1  112                 HELP"});
     EXPECT_EQ(storedEntries(), (BookRows{{"1", "112", "HELP"}}));
@@ -108,27 +118,13 @@ TEST_F(AddEntry, WithoutANumberOrANameIsRefused) {
 
 TEST_F(AddEntry, GoesBackOnlyWhenTheBoxIsAnswered) {
   openAdd();
-  machine().boxes.setAnswer(HeadlessBoxes::Answer::hold);
-  click(form().Command1);
-  run(5);
-  EXPECT_TRUE(form().Visible.peek());
-  EXPECT_FALSE(calls().Visible.peek());
-  machine().boxes.answerTop();
-  settle();
-  expectBackAtCalls();
+  expectToGoBackOnceTheBoxIsAnswered();
 }
 
 TEST_F(AddEntry, ToAFullBookGoesBackOnlyWhenTheBoxIsAnswered) {
   openAdd("1", "1");
   fill("", "", "113", "Al");
-  machine().boxes.setAnswer(HeadlessBoxes::Answer::hold);
-  click(form().Command1);
-  run(5);
-  EXPECT_TRUE(form().Visible.peek());
-  EXPECT_FALSE(calls().Visible.peek());
-  machine().boxes.answerTop();
-  settle();
-  expectBackAtCalls();
+  expectToGoBackOnceTheBoxIsAnswered();
 }
 
 TEST_F(AddEntry, BeyondAFullBookIsRefusedTheSame) {

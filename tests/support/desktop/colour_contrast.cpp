@@ -1,4 +1,4 @@
-#include "tests/app/colour_contrast.h"
+#include "tests/support/desktop/colour_contrast.h"
 
 #include <algorithm>
 #include <array>
